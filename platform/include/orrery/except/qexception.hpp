@@ -1,0 +1,51 @@
+// QException: the language's error object, and the last-error record.
+#pragma once
+
+#include <orrery/export.hpp>
+#include <orrery/value/value_array.hpp>
+
+#include <exception>
+#include <optional>
+#include <string>
+
+namespace orrery::except {
+
+/// A user error: identifier (UTF-8, may be empty), message (UTF-16), stack array
+/// and the name of the function that reported it (empty for none).
+class ORRERY_API QException : public std::exception {
+public:
+    QException(std::string identifier, std::u16string message, value::ValueArray stack,
+               std::string functionName);
+    ~QException() override;
+    QException(const QException&) = default;
+    QException& operator=(const QException&) = default;
+
+    const std::string& identifier() const noexcept { return identifier_; }
+    const std::u16string& message() const noexcept { return message_; }
+    const value::ValueArray& stack() const noexcept { return stack_; }
+    const std::string& functionName() const noexcept { return functionName_; }
+    /// The message as UTF-8.
+    const char* what() const noexcept override { return text_.c_str(); }
+
+    /// The last error the interpreter recorded.
+    class ORRERY_API LastError {
+    public:
+        struct Record {
+            std::string identifier;
+            std::u16string message;
+            std::optional<value::ValueArray> stack;
+        };
+        static Record Get();
+        static void Set(std::string identifier, std::u16string message,
+                        std::optional<value::ValueArray> stack);
+    };
+
+private:
+    std::string identifier_;
+    std::u16string message_;
+    value::ValueArray stack_;
+    std::string functionName_;
+    std::string text_;
+};
+
+}  // namespace orrery::except

@@ -1,0 +1,40 @@
+// Text conversions between UTF-8, UTF-16 and ASCII, and case-insensitive comparison.
+#pragma once
+
+#include <orrery/export.hpp>
+
+#include <string>
+#include <string_view>
+
+namespace orrery::text {
+
+/// Converts UTF-8 to UTF-16; raises "ORRERY:text:invalidUtf8" for malformed input.
+ORRERY_API std::u16string utf8ToUtf16(std::string_view utf8);
+
+/// Converts UTF-16 to UTF-8; raises "ORRERY:text:invalidUtf16" for an unpaired surrogate.
+ORRERY_API std::string utf16ToUtf8(std::u16string_view utf16);
+
+/// Converts UTF-16 to ASCII; raises "ORRERY:text:invalidCharacter" ("Invalid character
+/// error.") at the first code unit above 127.
+ORRERY_API std::string utf16ToAscii(std::u16string_view utf16);
+
+/// Widens ASCII (or Latin-1 bytes) to UTF-16 unit by unit.
+ORRERY_API std::u16string asciiToUtf16(std::string_view ascii);
+
+/// Compares with full Unicode case folding: negative, zero or positive.
+ORRERY_API int compareIgnoreCase(std::u16string_view a, std::u16string_view b);
+
+/// True when the two texts are equal under full Unicode case folding.
+ORRERY_API bool equalsIgnoreCase(std::u16string_view a, std::u16string_view b);
+
+/// True when the two narrow texts are equal, ASCII letters compared without case.
+ORRERY_API bool equalsIgnoreCaseAscii(std::string_view a, std::string_view b);
+
+/// Orders UTF-16 texts case-insensitively, for ordered containers keyed by file name.
+struct CaseInsensitiveLess {
+    bool operator()(std::u16string_view a, std::u16string_view b) const {
+        return compareIgnoreCase(a, b) < 0;
+    }
+};
+
+}  // namespace orrery::text

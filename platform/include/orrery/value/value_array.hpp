@@ -1,0 +1,154 @@
+// ValueArray: the interpreter's dynamically typed array value.
+#pragma once
+
+#include <orrery/export.hpp>
+#include <orrery/value/class_id.hpp>
+#include <orrery/value/dims.hpp>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orrery::ocos {
+class COSClassInfo;
+class COSObject;
+}  // namespace orrery::ocos
+
+namespace orrery::value {
+
+/// A dynamically typed N-dimensional array. Copies share their data; the first
+/// change through a non-const accessor makes the copy's data its own
+/// (copy-on-write). Elements are indexed linearly, column-major, from 0.
+/// Wrong-class access and out-of-range indexing raise catalogued errors.
+class ORRERY_API ValueArray {
+public:
+    /// A 0-by-0 double array.
+    ValueArray();
+    ~ValueArray();
+    ValueArray(const ValueArray&);
+    ValueArray(ValueArray&&) noexcept;
+    ValueArray& operator=(const ValueArray&);
+    ValueArray& operator=(ValueArray&&) noexcept;
+
+    // ---- construction -------------------------------------------------------
+    /// An array of a numeric class, logical or char, filled with zeros.
+    static ValueArray zeros(ClassId id, Dims dims);
+    static ValueArray scalar(double value);
+    static ValueArray doubles(Dims dims, std::vector<double> values);
+    static ValueArray logicalScalar(bool value);
+    static ValueArray logicals(Dims dims, std::vector<bool> values);
+    /// A numeric scalar of the given class (value converted with saturation).
+    static ValueArray numericScalar(ClassId id, double value);
+    /// A 1-by-N char row; the empty text gives a 0-by-0 char array.
+    static ValueArray chars(std::u16string_view text);
+    static ValueArray charsFromUtf8(std::string_view utf8);
+    static ValueArray charArray(Dims dims, std::u16string units);
+    /// A 1-by-1 string.
+    static ValueArray string(std::u16string_view text);
+    static ValueArray missingString();
+    static ValueArray strings(Dims dims, std::vector<std::optional<std::u16string>> elements);
+    /// A cell array of 0-by-0 doubles.
+    static ValueArray cell(Dims dims);
+    /// A struct array whose elements have the given fields, all unset.
+    static ValueArray structArray(Dims dims, std::vector<std::string> fieldNames = {});
+    /// The stack structure: N-by-1 struct with fields file, name, line (unset).
+    static ValueArray stackStructure(std::size_t frames);
+    /// An object array of the class; every element starts invalid.
+    static ValueArray objectArray(std::shared_ptr<const ocos::COSClassInfo> classInfo, Dims dims);
+
+    // ---- inspection ---------------------------------------------------------
+    ClassId classId() const noexcept { return classId_; }
+    /// The class name; for objects the class's full dotted name.
+    std::string className() const;
+    const Dims& dims() const noexcept { return dims_; }
+    std::size_t numel() const noexcept { return dims_.numel(); }
+    bool isEmpty() const noexcept { return numel() == 0; }
+    bool isScalar() const noexcept { return numel() == 1; }
+    std::size_t ndims() const noexcept { return dims_.count(); }
+    bool is(ClassId id) const noexcept { return classId_ == id; }
+    bool isNumeric() const noexcept { return isNumericClass(classId_); }
+    /// Changes the size without changing the elements; the element count must agree.
+    void reshape(Dims dims);
+
+    // ---- numbers, logicals and chars ------------------------------------------
+    /// Element i of a numeric, logical or char array as a double.
+    double realAt(std::size_t i) const;
+    void setRealAt(std::size_t i, double value);
+    /// Direct typed access; T must match the class (double, float, intN_t, uintN_t).
+    template <class T> std::span<const T> data() const;
+    template <class T> std::span<T> mutableData();
+    bool logicalAt(std::size_t i) const;
+    void setLogicalAt(std::size_t i, bool value);
+    /// Converts a scalar of any numeric, logical or char class to logical; NaN and
+    /// other classes raise "ORRERY:value:notLogicalConvertible".
+    ValueArray toLogicalScalar() const;
+
+    // ---- text -----------------------------------------------------------------
+    /// All units of a char array, column-major.
+    std::u16string_view chars() const;
+    /// Element i of a string array; empty optional for a missing string.
+    const std::optional<std::u16string>& stringAt(std::size_t i) const;
+    void setStringAt(std::size_t i, std::optional<std::u16string> text);
+    /// Strict text scalar: a 1-by-N char row (N >= 0) or a non-missing 1-by-1 string.
+    bool isTextScalar() const noexcept;
+    /// Tolerant text scalar: strict, plus the 0-by-0 char array.
+    bool isTextScalarTolerant() const noexcept;
+    /// The text of a (tolerant) text scalar; raises "ORRERY:value:wrongClass" otherwise.
+    std::u16string text() const;
+    std::string textUtf8() const;
+
+    // ---- cells ----------------------------------------------------------------
+    const ValueArray& cellAt(std::size_t i) const;
+    void setCellAt(std::size_t i, ValueArray value);
+
+    // ---- structs --------------------------------------------------------------
+    const std::vector<std::string>& fieldNames() const;
+    bool hasField(std::string_view name) const;
+    /// Adds a field (unset in every element) if absent.
+    void addField(std::string_view name);
+    /// The field of element i, or null when the field is absent or unset.
+    const ValueArray* field(std::size_t i, std::string_view name) const;
+    /// Sets the field of element i, adding the field when absent.
+    void setField(std::size_t i, std::string_view name, ValueArray value);
+
+    // ---- objects --------------------------------------------------------------
+    const std::shared_ptr<const ocos::COSClassInfo>& classInfo() const;
+    bool isValidElement(std::size_t i) const;
+    /// The instance of element i (null when invalid).
+    std::shared_ptr<ocos::COSObject> objectAt(std::size_t i) const;
+    void setObjectAt(std::size_t i, std::shared_ptr<ocos::COSObject> instance);
+
+    // ---- sharing --------------------------------------------------------------
+    /// A copy sharing the data (the language's assignment).
+    ValueArray sharedCopy() const { return *this; }
+    /// True when both share one data block (for tests of copy-on-write).
+    bool sharesDataWith(const ValueArray& other) const noexcept { return data_ == other.data_; }
+
+    struct Data;
+
+private:
+    ValueArray(ClassId id, Dims dims, std::shared_ptr<Data> data);
+    void checkIndex(std::size_t i) const;
+    void requireClass(ClassId id) const;
+    Data& mutate();
+
+    ClassId classId_;
+    Dims dims_;
+    std::shared_ptr<Data> data_;
+};
+
+/// Owning handle of a value: what built-ins put in their output slots.
+using ValueArrayPtr = std::unique_ptr<ValueArray>;
+
+/// Makes an owning handle holding the value.
+inline ValueArrayPtr makeValue(ValueArray value) { return std::make_unique<ValueArray>(std::move(value)); }
+
+/// The built-in signature: requested outputs, output slots, inputs (borrowed).
+using BuiltinFunction = void (*)(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs,
+                                 const ValueArray* const* prhs);
+
+}  // namespace orrery::value

@@ -1,0 +1,53 @@
+// QException, its envelope and the last-error record.
+#include <orrery/except/qexception.hpp>
+#include <orrery/except/qexception_envelope.hpp>
+#include <orrery/interp/call_stack.hpp>
+#include <orrery/text/text.hpp>
+
+namespace orrery::except {
+namespace {
+
+QException::LastError::Record& lastError() {
+    static QException::LastError::Record record;
+    return record;
+}
+
+// The message as UTF-8 for what(); a message that is not valid UTF-16 still
+// yields readable text rather than a second failure.
+std::string describe(const std::u16string& message) {
+    try {
+        return text::utf16ToUtf8(message);
+    } catch (const std::exception&) {
+        return "(message holds invalid text)";
+    }
+}
+
+}  // namespace
+
+QException::QException(std::string identifier, std::u16string message, value::ValueArray stack,
+                       std::string functionName)
+    : identifier_(std::move(identifier)), message_(std::move(message)), stack_(std::move(stack)),
+      functionName_(std::move(functionName)), text_(describe(message_)) {}
+
+QException::~QException() = default;
+
+QException::LastError::Record QException::LastError::Get() { return lastError(); }
+
+void QException::LastError::Set(std::string identifier, std::u16string message,
+                                std::optional<value::ValueArray> stack) {
+    lastError() = Record{std::move(identifier), std::move(message), std::move(stack)};
+}
+
+QExceptionEnvelope::QExceptionEnvelope(std::string identifier, std::u16string message,
+                                       std::optional<value::ValueArray> stack, int /*flag*/)
+    : identifier_(std::move(identifier)), message_(std::move(message)), stack_(std::move(stack)) {}
+
+QExceptionEnvelope::QExceptionEnvelope(const catalogue::MessageContent& content)
+    : identifier_(content.identifier), message_(content.text()) {}
+
+void QExceptionEnvelope::DoThrow() {
+    value::ValueArray stack = stack_ ? *stack_ : interp::currentStack(0);
+    throw QException(identifier_, message_, std::move(stack), functionName_);
+}
+
+}  // namespace orrery::except

@@ -1,0 +1,81 @@
+// Loads libdiagnostic.so the way the interpreter does and checks its entry points.
+#include "tests/support/expect_error.hpp"
+
+#include <orrery/services/services.hpp>
+#include <orrery/value/value_array.hpp>
+#include <orrery/warning/warning_manager.hpp>
+
+#include <dlfcn.h>
+
+#include <memory>
+#include <string>
+
+using namespace orrery;
+
+namespace {
+
+struct ModuleCloser {
+    void operator()(void* handle) const { dlclose(handle); }
+};
+
+class LoadedModule : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const std::string path = std::string(ORRERY_OUTPUT_DIR) + "/libdiagnostic.so";
+        handle_.reset(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL));
+        ASSERT_NE(handle_, nullptr) << dlerror();
+    }
+    template <class F>
+    F entry(const char* name) {
+        auto* symbol = dlsym(handle_.get(), name);
+        EXPECT_NE(symbol, nullptr) << name;
+        return reinterpret_cast<F>(symbol);
+    }
+    std::unique_ptr<void, ModuleCloser> handle_;
+};
+
+using EntryPoint = void (*)();
+
+}  // namespace
+
+TEST_F(LoadedModule, InitialisingTwiceRegistersTheResetBuiltinOnce) {
+    auto initialise = entry<EntryPoint>("LxInitialize_diagnostic");
+    auto terminate = entry<EntryPoint>("LxTerminate_diagnostic");
+    initialise();
+    initialise();
+    EXPECT_EQ(services::svRegistrationCount("ResetLastPrintedWarning"), 1);
+    EXPECT_NE(services::svLookupBuiltin("ResetLastPrintedWarning"), nullptr);
+    terminate();
+    terminate();
+    EXPECT_EQ(warning::utGetWarningLogFactoryFcn(), nullptr);
+    EXPECT_EQ(warning::utGetWarningLogDestroyFcn(), nullptr);
+}
+
+TEST_F(LoadedModule, ResetBuiltinClearsTheLastPrintedIdentifier) {
+    entry<EntryPoint>("LxInitialize_diagnostic")();
+    auto reset = services::svLookupBuiltin("ResetLastPrintedWarning");
+    ASSERT_NE(reset, nullptr);
+    auto* context = warning::utGetWarningManagerContext();
+    warning::utSetLastPrintedWarningId(context, "ORRERY:a:b");
+
+    const auto input = value::ValueArray::scalar(1);
+    const value::ValueArray* inputs[] = {&input};
+    value::ValueArrayPtr outputs[1];
+    EXPECT_MSGID(reset(1, outputs, 0, nullptr), "ORRERY:tooManyOutputs");
+    EXPECT_MSGID(reset(0, outputs, 1, inputs), "ORRERY:tooManyInputs");
+    EXPECT_MSGID(reset(0, outputs, -1, nullptr), "ORRERY:notEnoughInputs");
+    EXPECT_EQ(warning::utGetLastPrintedWarningId(context), "ORRERY:a:b");
+
+    reset(0, outputs, 0, nullptr);
+    EXPECT_EQ(warning::utGetLastPrintedWarningId(context), "");
+    EXPECT_EQ(outputs[0], nullptr);
+    entry<EntryPoint>("LxTerminate_diagnostic")();
+}
+
+TEST_F(LoadedModule, TerminatingWithoutAContextOnlyClearsTheFunctions) {
+    warning::utSetWarningManagerContextPresent(false);
+    entry<EntryPoint>("LxInitialize_diagnostic")();
+    entry<EntryPoint>("LxTerminate_diagnostic")();
+    EXPECT_EQ(warning::utGetWarningManagerContext(), nullptr);
+    warning::utSetWarningManagerContextPresent(true);
+}
