@@ -5,8 +5,11 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace orrery::ocos {
+
+class COSMethodInfo;
 
 /// The description of a class of the class system.
 class ORRERY_API COSClassInfo {
@@ -18,6 +21,9 @@ public:
     COSClassInfo& operator=(const COSClassInfo&) = delete;
 
     const std::string& getName() const noexcept { return fullName_; }
+
+    /// The class's own method of that name, or null.
+    virtual std::shared_ptr<const COSMethodInfo> findMethod(std::string_view name) const;
 
 private:
     std::string fullName_;
