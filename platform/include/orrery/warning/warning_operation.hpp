@@ -1,35 +1,51 @@
 // The interpreter's warning operations: issuing without logging, catalogue
-// warnings, and the stack of warning-output filters.
+// warnings, the stack of warning-output filters and the output destination.
 #pragma once
 
 #include <orrery/catalogue/message_content.hpp>
 #include <orrery/export.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
+#include <cstddef>
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
 namespace orrery::warning {
 
 /// Issues a warning without logging it. By the identifier's state (own, else the
-/// "all" default): "off" prints nothing and answers true (disabled); "error"
-/// raises the user error (QException) with the identifier and message; "on"
-/// passes the text through the filter stack and, unless a filter suppresses it,
-/// prints "Warning: <message>" to standard error, followed in backtrace mode by
-/// the caller's location and in verbose mode by a hint, then records the last
-/// printed identifier. Answers whether the warning was disabled.
+/// "all" default; an empty identifier always takes the default):
+/// - "off" prints nothing and answers true (disabled);
+/// - "error" raises the user error (QException) with the identifier and message;
+/// - "on" passes a copy of the text through the filter stack and, unless a filter
+///   suppresses it, prints "Warning: <message>" (UTF-8) to the warning output,
+///   followed in backtrace mode by "> In <name> (line <n>)" for the innermost
+///   frame of the call stack (when there is one) and in verbose mode by a hint
+///   naming the command that turns the warning off (when it has an identifier);
+///   then records the identifier as the last printed one. A suppressed warning is
+///   not printed and so not recorded. Answers false.
+/// Text that is not valid (unpaired surrogates in the message, malformed UTF-8 in
+/// the identifier) is printed with U+FFFD in place of each bad sequence.
+/// Without a context (the host has none) the warning is printed plainly and
+/// nothing is recorded.
 ORRERY_API bool issueWarningWithoutLogging(WarningManagerContext* context, std::string_view identifier,
                                            std::u16string_view message);
 
-/// Issues a catalogue message as a warning with the message's own identifier:
-/// issueWarningWithoutLogging, then the context's log (if any) receives it.
+/// Issues a catalogue message as a warning with the message's own identifier and
+/// text: issueWarningWithoutLogging, then the context's log (if any) receives the
+/// message with the answer as wasDisabled. An "error" state raises before logging.
 ORRERY_API void issueCatalogueWarning(WarningManagerContext* context, const catalogue::MessageContent& message);
 
-/// Receives the text of a warning about to be printed; false suppresses printing.
+/// Receives the text of a warning about to be printed and may change it; false
+/// suppresses printing.
 using WarningFilterFunction = std::function<bool(std::u16string& text)>;
 
-/// Pushes a filter on construction and pops it on destruction.
+/// Registers a filter for as long as the object lives. Filters run from the most
+/// recently pushed to the oldest, each seeing the text as the previous one left
+/// it; the first that answers false ends the run and the warning is not printed.
+/// Destruction removes exactly this object's filter, in whatever order filters
+/// are destroyed. An empty function lets every warning through.
 class ORRERY_API WarningFilter {
 public:
     explicit WarningFilter(WarningFilterFunction filter);
@@ -40,5 +56,9 @@ public:
 private:
     std::size_t id_;
 };
+
+/// Sends printed warnings to output (null: standard error, the default) and
+/// returns the previous destination. The stream must outlive its use.
+ORRERY_API std::ostream* setWarningOutput(std::ostream* output);
 
 }  // namespace orrery::warning

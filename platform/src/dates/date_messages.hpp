@@ -1,0 +1,11 @@
+// Catalogue keys of the date conversions' failures.
+#pragma once
+
+#include <orrery/except/message_id.hpp>
+
+namespace orrery::interp::messages {
+
+ORRERY_MESSAGE_KEY(NotFinite, "ORRERY:dates:notFinite");
+ORRERY_MESSAGE_KEY(OutOfRange, "ORRERY:dates:outOfRange");
+
+}  // namespace orrery::interp::messages
