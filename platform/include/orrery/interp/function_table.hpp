@@ -14,15 +14,21 @@ namespace orrery::interp {
 using LanguageFunction = std::function<void(std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
                                             const value::ValueArray* const* prhs)>;
 
-/// Registers (or replaces) a function under a name.
+/// Registers (or replaces) a function under a name; an empty function removes the name.
+/// The table is process-wide. The platform's own "isscalar" (one input, at most one
+/// output: true when the input has exactly one element) and "sprintf" (fiSprintf with
+/// the built-in signature) are in it before anything else is registered.
 ORRERY_API void registerFunction(std::string_view name, LanguageFunction function);
 
 /// True when a function of that name is registered.
 ORRERY_API bool isFunction(std::string_view name);
 
-/// Calls a language function by name. When an input is an object whose class
-/// defines a method of that name, the method runs instead (class methods win over
-/// the host's functions). An unknown name raises "ORRERY:undefinedFunction".
+/// Calls a language function by name. The first input that is an object array
+/// whose class has a method of that name (COSClassInfo::findMethod) decides: that
+/// method runs instead (class methods win over the host's functions). Otherwise
+/// the registered function runs; an unknown name raises "ORRERY:undefinedFunction".
+/// plhs must have room for max(nlhs, 1) outputs: a function fills plhs[0] even
+/// when no output is requested, as the language's "ans" needs.
 ORRERY_API void callFunction(std::string_view name, std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
                              const value::ValueArray* const* prhs);
 

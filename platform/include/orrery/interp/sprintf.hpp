@@ -8,12 +8,37 @@
 
 namespace orrery::interp {
 
-/// sprintf(format, args...): count >= 1 values, the first being the format (a
-/// char row or a string scalar). Returns a 1-by-N char row, or a 1-by-1 string
-/// when the format is a string. Escapes are processed in the format; the format
-/// is applied to the elements of all arguments in order and repeated while
-/// elements remain. A format that is not text raises
-/// "ORRERY:sprintf:missingStringArgument"; count < 1 "ORRERY:notEnoughInputs".
+/// sprintf(format, args...): values[0] is the format, values[1 .. count-1] its data.
+///
+/// The format is a char row, the 0-by-0 char array or a string scalar. The result
+/// is a 1-by-N char row (1-by-0 when empty), or a 1-by-1 string when the format is
+/// a string. In the format, the escapes \n \t \\ \a \b \f \r \v, octal \ooo (one to
+/// three digits) and hex \xH.. (one to four digits) stand for their characters and
+/// "%%" for a percent sign; a backslash before anything else stays as written.
+///
+/// Conversions are %[flags][width][.precision][l|h]type with flags "-+ 0#", type
+/// one of d i u o x X c s f e E g G, and "*" for a width or precision taken from
+/// the data. The data are the elements of all arguments in order, each argument
+/// column-major: numbers and logicals one by one, string elements as texts ("<missing>"
+/// for a missing one), char arrays one character (its code) per conversion, except
+/// that %s takes the rest of the current char array at once. The format is applied
+/// again while data remain; the output ends at the first conversion that finds no
+/// data left, after the literal text before it. A format without conversions, or a
+/// call without data (no arguments, or only empty ones), gives the literal text
+/// once, conversions printing nothing.
+///
+/// Per conversion: %d %i %u %o %x %X print whole numbers; a fraction (or, for
+/// %u %o %x %X, a negative number) prints as %e would with the same flags, width and
+/// precision. %c prints the character of a code from 0 to 65535, anything else as
+/// %e. %s prints a whole number that fits 64 bits as an integer and any other number
+/// as %g; a text it cuts to the precision. Inf, -Inf and NaN print as such under
+/// every conversion. A text given to any conversion prints as it stands.
+///
+/// Failures: count < 1 raises "ORRERY:notEnoughInputs"; a format that is not text
+/// "ORRERY:sprintf:missingStringArgument"; an incomplete or unknown conversion
+/// "ORRERY:sprintf:badFormat"; a width or precision that is not a whole number of at
+/// most 100000 in magnitude "ORRERY:sprintf:badFieldSize"; a cell, struct or object
+/// argument "ORRERY:sprintf:unsupportedArgument"; a null argument "ORRERY:invalidInput".
 ORRERY_API value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values);
 
 }  // namespace orrery::interp

@@ -1,0 +1,178 @@
+// Taking a sprintf format apart: escapes, "%%", and conversions with their flags and fields.
+#include "format_parser.hpp"
+
+#include "sprintf_messages.hpp"
+
+#include <orrery/except/throw_message.hpp>
+
+#include <unicode/utf16.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace orrery::interp::detail {
+namespace {
+
+constexpr std::u16string_view conversionTypes = u"diuoxXcsfeEgG";
+
+std::optional<int> digitValue(char16_t unit, int base) {
+    int value = -1;
+    if (unit >= u'0' && unit <= u'9') value = unit - u'0';
+    else if (unit >= u'a' && unit <= u'f') value = unit - u'a' + 10;
+    else if (unit >= u'A' && unit <= u'F') value = unit - u'A' + 10;
+    if (value < 0 || value >= base) return std::nullopt;
+    return value;
+}
+
+std::optional<char16_t> simpleEscape(char16_t unit) {
+    switch (unit) {
+    case u'n': return u'\n';
+    case u't': return u'\t';
+    case u'\\': return u'\\';
+    case u'a': return u'\a';
+    case u'b': return u'\b';
+    case u'f': return u'\f';
+    case u'r': return u'\r';
+    case u'v': return u'\v';
+    default: return std::nullopt;
+    }
+}
+
+class FormatParser {
+public:
+    explicit FormatParser(std::u16string_view format) : format_(format) {}
+
+    std::vector<FormatItem> parse() {
+        while (pos_ < format_.size()) {
+            const char16_t unit = format_[pos_];
+            if (unit == u'\\') {
+                readEscape();
+            } else if (unit == u'%' && peek(1) != u'%') {
+                readConversion();
+            } else {
+                literal_ += unit;
+                pos_ += unit == u'%' ? 2 : 1;
+            }
+        }
+        flushLiteral();
+        return std::move(items_);
+    }
+
+private:
+    char16_t peek(std::size_t ahead) const {
+        return pos_ + ahead < format_.size() ? format_[pos_ + ahead] : u'\0';
+    }
+
+    void flushLiteral() {
+        if (!literal_.empty()) items_.emplace_back(std::move(literal_));
+        literal_.clear();
+    }
+
+    // Reads one to maxDigits digits of the base from start and moves past them;
+    // nothing when no digit stands there.
+    std::optional<char16_t> readNumericEscape(std::size_t start, int base, std::size_t maxDigits) {
+        std::uint32_t value = 0;
+        std::size_t count = 0;
+        while (count < maxDigits && start + count < format_.size()) {
+            const auto digit = digitValue(format_[start + count], base);
+            if (!digit) break;
+            value = value * static_cast<std::uint32_t>(base) + static_cast<std::uint32_t>(*digit);
+            ++count;
+        }
+        if (count == 0) return std::nullopt;
+        pos_ = start + count;
+        return static_cast<char16_t>(value);
+    }
+
+    void readEscape() {
+        if (const auto simple = simpleEscape(peek(1))) {
+            literal_ += *simple;
+            pos_ += 2;
+            return;
+        }
+        const auto coded = peek(1) == u'x' ? readNumericEscape(pos_ + 2, 16, 4) : readNumericEscape(pos_ + 1, 8, 3);
+        if (coded) {
+            literal_ += *coded;
+        } else {
+            literal_ += u'\\';
+            ++pos_;
+        }
+    }
+
+    void readFlags(ConversionFlags& flags) {
+        for (;; ++pos_) {
+            switch (peek(0)) {
+            case u'-': flags.leftAlign = true; break;
+            case u'+': flags.plusSign = true; break;
+            case u' ': flags.spaceSign = true; break;
+            case u'0': flags.zeroPad = true; break;
+            case u'#': flags.alternate = true; break;
+            default: return;
+            }
+        }
+    }
+
+    FieldSize readFieldSize() {
+        if (peek(0) == u'*') {
+            ++pos_;
+            return {FieldSize::Source::FromData, 0};
+        }
+        FieldSize size;
+        while (const auto digit = digitValue(peek(0), 10)) {
+            size.source = FieldSize::Source::Written;
+            size.value = size.value * 10 + *digit;
+            if (size.value > maxFieldSize) except::throwMessage(BadFieldSize(maxFieldSize));
+            ++pos_;
+        }
+        return size;
+    }
+
+    // Raises badFormat quoting the conversion from its percent sign through the
+    // offending character; an unpaired surrogate there is quoted as U+FFFD.
+    [[noreturn]] void badConversion(std::size_t start) const {
+        std::u16string written(format_.substr(start, pos_ - start));
+        if (pos_ < format_.size()) {
+            const char16_t unit = format_[pos_];
+            if (U16_IS_LEAD(unit) && U16_IS_TRAIL(peek(1))) written += format_.substr(pos_, 2);
+            else written += U16_IS_SURROGATE(unit) ? u'\uFFFD' : unit;
+        }
+        except::throwMessage(BadFormat(std::move(written)));
+    }
+
+    void readConversion() {
+        const std::size_t start = pos_++;
+        Conversion conversion;
+        readFlags(conversion.flags);
+        conversion.width = readFieldSize();
+        if (peek(0) == u'.') {
+            ++pos_;
+            conversion.precision = readFieldSize();
+            if (conversion.precision.source == FieldSize::Source::None)
+                conversion.precision = {FieldSize::Source::Written, 0};
+        }
+        for (int modifiers = 0; modifiers < 2 && (peek(0) == u'l' || peek(0) == u'h'); ++modifiers) ++pos_;
+        const char16_t type = pos_ < format_.size() ? format_[pos_] : u'\0';
+        if (type == u'\0' || conversionTypes.find(type) == std::u16string_view::npos) badConversion(start);
+        ++pos_;
+        conversion.type = static_cast<char>(type);
+        flushLiteral();
+        items_.emplace_back(conversion);
+    }
+
+    std::u16string_view format_;
+    std::size_t pos_ = 0;
+    std::u16string literal_;
+    std::vector<FormatItem> items_;
+};
+
+}  // namespace
+
+std::vector<FormatItem> parseFormat(std::u16string_view format) { return FormatParser(format).parse(); }
+
+bool hasConversion(const std::vector<FormatItem>& items) {
+    for (const auto& item : items)
+        if (std::holds_alternative<Conversion>(item)) return true;
+    return false;
+}
+
+}  // namespace orrery::interp::detail

@@ -1,0 +1,96 @@
+// The language's sprintf: cycles a parsed format over the elements of its data.
+#include <orrery/interp/sprintf.hpp>
+
+#include "format_conversion.hpp"
+#include "format_parser.hpp"
+#include "sprintf_arguments.hpp"
+#include "sprintf_messages.hpp"
+
+#include <orrery/except/argument_errors.hpp>
+#include <orrery/except/throw_message.hpp>
+
+#include <cstdlib>
+
+namespace orrery::interp {
+namespace {
+
+using detail::ArgumentCursor;
+using detail::Conversion;
+using detail::FieldSize;
+using detail::FormatItem;
+
+// A width or precision read from the data: a whole number of at most maxFieldSize
+// in magnitude (a negative width left-aligns, a negative precision counts as none).
+int fieldSizeFromData(ArgumentCursor& data) {
+    const detail::Element element = data.next();
+    const auto* number = std::get_if<detail::Number>(&element);
+    const auto* whole = number != nullptr ? std::get_if<std::int64_t>(&number->exact) : nullptr;
+    if (whole == nullptr || *whole > detail::maxFieldSize || *whole < -detail::maxFieldSize)
+        except::throwMessage(detail::BadFieldSize(detail::maxFieldSize));
+    return static_cast<int>(*whole);
+}
+
+// Settles "*" fields from the data; false when the data ran out first.
+bool resolve(const Conversion& conversion, ArgumentCursor& data, detail::ResolvedConversion& resolved) {
+    resolved = {conversion.flags, std::nullopt, std::nullopt, conversion.type};
+    if (conversion.width.source == FieldSize::Source::FromData) {
+        if (data.exhausted()) return false;
+        const int width = fieldSizeFromData(data);
+        resolved.flags.leftAlign = resolved.flags.leftAlign || width < 0;
+        resolved.width = std::abs(width);
+    } else if (conversion.width.source == FieldSize::Source::Written) {
+        resolved.width = conversion.width.value;
+    }
+    if (conversion.precision.source == FieldSize::Source::FromData) {
+        if (data.exhausted()) return false;
+        const int precision = fieldSizeFromData(data);
+        if (precision >= 0) resolved.precision = precision;
+    } else if (conversion.precision.source == FieldSize::Source::Written) {
+        resolved.precision = conversion.precision.value;
+    }
+    return !data.exhausted();
+}
+
+std::u16string literalTextOnly(const std::vector<FormatItem>& items) {
+    std::u16string out;
+    for (const auto& item : items)
+        if (const auto* literal = std::get_if<std::u16string>(&item)) out += *literal;
+    return out;
+}
+
+// Applies the format again and again while data remains; the output ends at the
+// first conversion that finds no data left.
+std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data) {
+    std::u16string out;
+    for (;;) {
+        for (const auto& item : items) {
+            if (const auto* literal = std::get_if<std::u16string>(&item)) {
+                out += *literal;
+                continue;
+            }
+            const auto& conversion = std::get<Conversion>(item);
+            detail::ResolvedConversion resolved;
+            if (!resolve(conversion, data, resolved)) return out;
+            out += detail::formatElement(resolved, conversion.type == 's' ? data.nextForText() : data.next());
+        }
+        if (data.exhausted()) return out;
+    }
+}
+
+}  // namespace
+
+value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values) {
+    if (count < 1 || values == nullptr) except::throwNotEnoughInputs();
+    const value::ValueArray* format = values[0];
+    if (format == nullptr || !format->isTextScalarTolerant())
+        except::throwMessage(detail::MissingStringArgument());
+    const auto items = detail::parseFormat(format->text());
+    ArgumentCursor data({values + 1, static_cast<std::size_t>(count - 1)});
+    // A format without conversions, or a call without data, prints the literal text once.
+    const std::u16string out =
+        detail::hasConversion(items) && !data.exhausted() ? cycle(items, data) : literalTextOnly(items);
+    if (format->is(value::ClassId::String)) return value::ValueArray::string(out);
+    return value::ValueArray::charArray(value::Dims{1, out.size()}, out);
+}
+
+}  // namespace orrery::interp
