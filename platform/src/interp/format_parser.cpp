@@ -5,8 +5,6 @@
 
 #include <orrery/except/throw_message.hpp>
 
-#include <unicode/utf16.h>
-
 #include <cstdint>
 #include <optional>
 
@@ -127,20 +125,8 @@ private:
         return size;
     }
 
-    // Raises badFormat quoting the conversion from its percent sign through the
-    // offending character; an unpaired surrogate there is quoted as U+FFFD.
-    [[noreturn]] void badConversion(std::size_t start) const {
-        std::u16string written(format_.substr(start, pos_ - start));
-        if (pos_ < format_.size()) {
-            const char16_t unit = format_[pos_];
-            if (U16_IS_LEAD(unit) && U16_IS_TRAIL(peek(1))) written += format_.substr(pos_, 2);
-            else written += U16_IS_SURROGATE(unit) ? u'\uFFFD' : unit;
-        }
-        except::throwMessage(BadFormat(std::move(written)));
-    }
-
     void readConversion() {
-        const std::size_t start = pos_++;
+        ++pos_;
         Conversion conversion;
         readFlags(conversion.flags);
         conversion.width = readFieldSize();
@@ -152,7 +138,12 @@ private:
         }
         for (int modifiers = 0; modifiers < 2 && (peek(0) == u'l' || peek(0) == u'h'); ++modifiers) ++pos_;
         const char16_t type = pos_ < format_.size() ? format_[pos_] : u'\0';
-        if (type == u'\0' || conversionTypes.find(type) == std::u16string_view::npos) badConversion(start);
+        if (type == u'\0' || conversionTypes.find(type) == std::u16string_view::npos) {
+            // The language ends the format at a conversion it cannot read, so a
+            // message such as "Done 100%" prints as far as it can.
+            pos_ = format_.size();
+            return;
+        }
         ++pos_;
         conversion.type = static_cast<char>(type);
         flushLiteral();

@@ -42,8 +42,8 @@ using FormatItem = std::variant<std::u16string, Conversion>;
 /// Takes a format apart. Escapes \n \t \\ \a \b \f \r \v, octal \ooo (one to three
 /// digits) and hex \xH.. (one to four digits) become the units they stand for; a
 /// backslash before anything else stays a backslash. Adjacent literal text forms
-/// one item. An incomplete or unknown conversion raises "ORRERY:sprintf:badFormat";
-/// a written width or precision above maxFieldSize raises "ORRERY:sprintf:badFieldSize".
+/// one item. An incomplete or unknown conversion ends the format there (the text
+/// before it is kept); a written width or precision above maxFieldSize raises "ORRERY:sprintf:badFieldSize".
 std::vector<FormatItem> parseFormat(std::u16string_view format);
 
 /// True when the items hold at least one conversion.

@@ -7,7 +7,6 @@ namespace orrery::interp::detail {
 
 ORRERY_MESSAGE_KEY(MissingStringArgument, "ORRERY:sprintf:missingStringArgument");
 /// {0}: the conversion as written, from its percent sign.
-ORRERY_MESSAGE_KEY(BadFormat, "ORRERY:sprintf:badFormat");
 /// {0}: the largest width or precision accepted.
 ORRERY_MESSAGE_KEY(BadFieldSize, "ORRERY:sprintf:badFieldSize");
 /// {0}: the class of the argument.
