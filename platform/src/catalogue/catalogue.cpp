@@ -2,6 +2,7 @@
 // identifier component, formatted with ICU MessageFormat.
 #include <orrery/catalogue/catalogue.hpp>
 #include <orrery/catalogue/message_content.hpp>
+#include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
 #include <unicode/locid.h>
@@ -20,6 +21,9 @@
 
 namespace orrery::catalogue {
 namespace {
+
+ORRERY_MESSAGE_KEY(NoSuchMessage, "ORRERY:catalogue:noSuchMessage");
+ORRERY_MESSAGE_KEY(ArgumentMismatch, "ORRERY:catalogue:argumentMismatch");
 
 struct BundleCloser {
     void operator()(UResourceBundle* bundle) const { ures_close(bundle); }
@@ -89,7 +93,7 @@ bool hasMessage(std::string_view identifier) { return lookupPattern(identifier).
 
 std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments) {
     const auto pattern = lookupPattern(identifier);
-    if (!pattern) throw std::logic_error("no catalogue entry for " + std::string(identifier));
+    if (!pattern) except::throwMessage(NoSuchMessage(text::utf8ToUtf16(identifier)));
     UErrorCode status = U_ZERO_ERROR;
     icu::MessageFormat format(icu::UnicodeString(pattern->data(), static_cast<int32_t>(pattern->size())),
                               icu::Locale::getDefault(), status);
@@ -100,7 +104,7 @@ std::u16string formatMessage(std::string_view identifier, std::span<const Messag
     icu::UnicodeString result;
     icu::FieldPosition position;
     format.format(values.data(), static_cast<int32_t>(values.size()), result, position, status);
-    if (U_FAILURE(status)) throw std::logic_error("cannot format catalogue entry " + std::string(identifier));
+    if (U_FAILURE(status)) except::throwMessage(ArgumentMismatch(text::utf8ToUtf16(identifier)));
     return std::u16string(reinterpret_cast<const char16_t*>(result.getBuffer()), static_cast<std::size_t>(result.length()));
 }
 

@@ -15,7 +15,8 @@ namespace orrery::catalogue {
 ORRERY_API bool hasMessage(std::string_view identifier);
 
 /// The text of the identifier with its placeholders filled from arguments, in the
-/// ICU default locale. A missing entry is an internal fault: std::logic_error.
+/// ICU default locale. A missing entry raises "ORRERY:catalogue:noSuchMessage";
+/// arguments of the wrong kind for the pattern raise "ORRERY:catalogue:argumentMismatch".
 ORRERY_API std::u16string formatMessage(std::string_view identifier,
                                         std::span<const MessageArgument> arguments = {});
 

@@ -25,7 +25,8 @@ namespace orrery::interp {
 /// again while data remain; the output ends at the first conversion that finds no
 /// data left, after the literal text before it. A format without conversions, or a
 /// call without data (no arguments, or only empty ones), gives the literal text
-/// once, conversions printing nothing.
+/// once, conversions printing nothing. An incomplete or unknown conversion ends
+/// the format where it stands.
 ///
 /// Per conversion: %d %i %u %o %x %X print whole numbers; a fraction (or, for
 /// %u %o %x %X, a negative number) prints as %e would with the same flags, width and
@@ -35,8 +36,7 @@ namespace orrery::interp {
 /// every conversion. A text given to any conversion prints as it stands.
 ///
 /// Failures: count < 1 raises "ORRERY:notEnoughInputs"; a format that is not text
-/// "ORRERY:sprintf:missingStringArgument"; an incomplete or unknown conversion
-/// "ORRERY:sprintf:badFormat"; a width or precision that is not a whole number of at
+/// "ORRERY:sprintf:missingStringArgument"; a width or precision that is not a whole number of at
 /// most 100000 in magnitude "ORRERY:sprintf:badFieldSize"; a cell, struct or object
 /// argument "ORRERY:sprintf:unsupportedArgument"; a null argument "ORRERY:invalidInput".
 ORRERY_API value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values);
