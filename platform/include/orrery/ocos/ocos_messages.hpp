@@ -1,0 +1,27 @@
+// Catalogue keys of the class system's failures.
+#pragma once
+
+#include <orrery/except/message_id.hpp>
+
+namespace orrery::ocos::messages {
+
+/// {0} property, {1} class, {2} declared type.
+ORRERY_MESSAGE_KEY(PropertyType, "ORRERY:ocos:propertyType");
+/// {0} property, {1} class.
+ORRERY_MESSAGE_KEY(NoSuchProperty, "ORRERY:ocos:noSuchProperty");
+/// {0} property, {1} class.
+ORRERY_MESSAGE_KEY(ReadOnlyProperty, "ORRERY:ocos:readOnlyProperty");
+/// {0} dotted class name.
+ORRERY_MESSAGE_KEY(NoSuchClass, "ORRERY:ocos:noSuchClass");
+/// {0} dotted function name.
+ORRERY_MESSAGE_KEY(NoSuchFunction, "ORRERY:ocos:noSuchFunction");
+/// {0} method, {1} class.
+ORRERY_MESSAGE_KEY(NoSuchMethod, "ORRERY:ocos:noSuchMethod");
+/// {0} one-based element index, {1} class.
+ORRERY_MESSAGE_KEY(InvalidElement, "ORRERY:ocos:invalidElement");
+/// {0} one-based argument position, {1} method or function, {2} declared type.
+ORRERY_MESSAGE_KEY(ArgumentType, "ORRERY:ocos:argumentType");
+/// {0} message identifier.
+ORRERY_MESSAGE_KEY(NoSuchMessage, "ORRERY:ocos:noSuchMessage");
+
+}  // namespace orrery::ocos::messages
