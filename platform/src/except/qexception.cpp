@@ -46,8 +46,7 @@ QExceptionEnvelope::QExceptionEnvelope(const catalogue::MessageContent& content)
     : identifier_(content.identifier), message_(content.text()) {}
 
 void QExceptionEnvelope::DoThrow() {
-    value::ValueArray stack = stack_ ? *stack_ : interp::currentStack(0);
-    throw QException(identifier_, message_, std::move(stack), functionName_);
+    throw QException(identifier_, message_, stack_ ? *stack_ : interp::currentStack(0), functionName_);
 }
 
 }  // namespace orrery::except

@@ -19,6 +19,11 @@ void setCurrentLine(std::uint32_t line) {
 std::vector<StackEntry> currentFrames() { return {frames().rbegin(), frames().rend()}; }
 
 value::ValueArray currentStack(std::size_t skip) {
+    if (frames().size() <= skip) {
+        // Outside any function the stack is always the same empty array: share one.
+        static const auto empty = value::ValueArray::stackStructure(0);
+        return empty;
+    }
     const auto innermostFirst = currentFrames();
     const std::size_t count = skip < innermostFirst.size() ? innermostFirst.size() - skip : 0;
     auto stack = value::ValueArray::stackStructure(count);

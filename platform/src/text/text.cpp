@@ -9,8 +9,21 @@
 
 namespace orrery::text {
 
+namespace {
+bool isAscii(std::string_view text) {
+    for (char c : text)
+        if (static_cast<unsigned char>(c) > 127) return false;
+    return true;
+}
+bool isAscii(std::u16string_view text) {
+    for (char16_t unit : text)
+        if (unit > 127) return false;
+    return true;
+}
+}  // namespace
+
 std::u16string utf8ToUtf16(std::string_view utf8) {
-    if (utf8.empty()) return {};
+    if (isAscii(utf8)) return asciiToUtf16(utf8);  // the common case needs no conversion
     UErrorCode status = U_ZERO_ERROR;
     int32_t length = 0;
     const auto inLength = static_cast<int32_t>(utf8.size());
@@ -24,7 +37,7 @@ std::u16string utf8ToUtf16(std::string_view utf8) {
 }
 
 std::string utf16ToUtf8(std::u16string_view utf16) {
-    if (utf16.empty()) return {};
+    if (isAscii(utf16)) return std::string(utf16.begin(), utf16.end());
     UErrorCode status = U_ZERO_ERROR;
     int32_t length = 0;
     const auto* in = reinterpret_cast<const UChar*>(utf16.data());
