@@ -1,0 +1,101 @@
+// Element-wise and reducing math built-ins: abs, isnan, isinf, any, all, sum.
+#include "shell/builtins/array_slices.hpp"
+#include "shell/builtins/builtin_groups.hpp"
+#include "shell/builtins/builtin_support.hpp"
+
+#include <orrery/except/argument_errors.hpp>
+
+#include <cmath>
+
+namespace orrery::shell::builtins {
+namespace {
+
+using except::checkArgumentCounts;
+using value::ClassId;
+using value::makeValue;
+using value::ValueArray;
+using value::ValueArrayPtr;
+
+// ---- element-wise ------------------------------------------------------------
+
+void bnAbs(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 1);
+    const ValueArray& x = *prhs[0];
+    requireNumeric(x, "abs");
+    ValueArray result = ValueArray::zeros(x.isNumeric() ? x.classId() : ClassId::Double, x.dims());
+    for (std::size_t i = 0; i < x.numel(); ++i) result.setRealAt(i, std::fabs(x.realAt(i)));
+    plhs[0] = makeValue(std::move(result));
+}
+
+template <bool (*Test)(double)>
+ValueArray testElements(const ValueArray& x, std::string_view function) {
+    requireNumeric(x, function);
+    ValueArray result = ValueArray::zeros(ClassId::Logical, x.dims());
+    for (std::size_t i = 0; x.isNumeric() && i < x.numel(); ++i) result.setLogicalAt(i, Test(x.realAt(i)));
+    return result;
+}
+
+bool isNaN(double x) { return std::isnan(x); }
+bool isInf(double x) { return std::isinf(x); }
+
+void bnIsnan(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 1);
+    plhs[0] = makeValue(testElements<isNaN>(*prhs[0], "isnan"));
+}
+
+void bnIsinf(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 1);
+    plhs[0] = makeValue(testElements<isInf>(*prhs[0], "isinf"));
+}
+
+// ---- reductions --------------------------------------------------------------
+
+// The slices of f(x) or f(x, dim).
+Slices reductionSlices(std::string_view function, std::int32_t nrhs, const ValueArray* const* prhs) {
+    requireNumeric(*prhs[0], function);
+    if (nrhs > 1) return slicesAlong(prhs[0]->dims(), dimensionArgument(*prhs[1], function));
+    return defaultSlices(prhs[0]->dims());
+}
+
+// any ignores NaN; all counts NaN as nonzero.
+template <bool All>
+void bnAnyAll(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 2);
+    const ValueArray& x = *prhs[0];
+    const Slices slices = reductionSlices(All ? "all" : "any", nrhs, prhs);
+    ValueArray result = ValueArray::zeros(ClassId::Logical, slices.reduced);
+    for (std::size_t k = 0; k < slices.count; ++k) {
+        bool answer = All;
+        for (std::size_t j = 0; j < slices.length && answer == All; ++j) {
+            const double v = x.realAt(slices.at(k, j));
+            answer = All ? v != 0 : (v != 0 && !std::isnan(v));
+        }
+        result.setLogicalAt(k, answer);
+    }
+    plhs[0] = makeValue(std::move(result));
+}
+
+// Sums keep single and integer classes (integers saturate); others give double.
+void bnSum(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 2);
+    const ValueArray& x = *prhs[0];
+    const Slices slices = reductionSlices("sum", nrhs, prhs);
+    ValueArray result = ValueArray::zeros(x.isNumeric() ? x.classId() : ClassId::Double, slices.reduced);
+    for (std::size_t k = 0; k < slices.count; ++k) {
+        double total = 0;
+        for (std::size_t j = 0; j < slices.length; ++j) total += x.realAt(slices.at(k, j));
+        result.setRealAt(k, total);
+    }
+    plhs[0] = makeValue(std::move(result));
+}
+
+constexpr BuiltinEntry table[] = {
+    {"abs", bnAbs}, {"isnan", bnIsnan}, {"isinf", bnIsinf},
+    {"any", bnAnyAll<false>}, {"all", bnAnyAll<true>}, {"sum", bnSum},
+};
+
+}  // namespace
+
+std::span<const BuiltinEntry> mathBuiltins() { return table; }
+
+}  // namespace orrery::shell::builtins

@@ -1,0 +1,151 @@
+// Calls by name: script functions (each in its own workspace and call-stack
+// frame), the function table, the services layer's built-ins and namespace
+// functions of the class system, all with the built-in signature.
+#include "shell/eval/interpreter.hpp"
+
+#include "shell/eval/eval_messages.hpp"
+#include "shell/eval/user_error.hpp"
+
+#include <orrery/except/argument_errors.hpp>
+#include <orrery/except/host_messages.hpp>
+#include <orrery/except/throw_message.hpp>
+#include <orrery/interp/call_stack.hpp>
+#include <orrery/interp/function_table.hpp>
+#include <orrery/ocos/dispatch.hpp>
+#include <orrery/services/services.hpp>
+#include <orrery/text/text.hpp>
+
+#include <algorithm>
+#include <functional>
+
+namespace orrery::shell::eval {
+
+using value::ValueArray;
+
+namespace {
+
+using Invoker = std::function<void(std::int32_t, value::ValueArrayPtr*, std::int32_t, const ValueArray* const*)>;
+
+std::vector<const ValueArray*> pointersTo(const std::vector<ValueArray>& args) {
+    std::vector<const ValueArray*> pointers;
+    for (const auto& arg : args) pointers.push_back(&arg);
+    return pointers;
+}
+
+// Runs a built-in with the signature: nargout outputs requested (slot 1 is
+// offered even for none), failures reported as errors of `name`.
+std::vector<ValueArray> invoke(const std::string& name, const std::vector<ValueArray>& args, int nargout,
+                               const Invoker& function) {
+    std::vector<value::ValueArrayPtr> slots(static_cast<std::size_t>(std::max(nargout, 1)));
+    const auto inputs = pointersTo(args);
+    try {
+        function(nargout, slots.data(), static_cast<std::int32_t>(inputs.size()), inputs.data());
+    } catch (const except::IMsgIDException& failure) {
+        throw userErrorFrom(failure, name);
+    }
+    std::vector<ValueArray> results;
+    for (std::size_t i = 0; i < slots.size() && slots[i]; ++i) results.push_back(std::move(*slots[i]));
+    if (static_cast<int>(results.size()) < nargout) {
+        if (results.empty()) except::throwMessage(NoOutput(text::utf8ToUtf16(name)));
+        except::throwMessage(OutputNotSet(text::utf8ToUtf16(std::to_string(results.size() + 1)), text::utf8ToUtf16(name)));
+    }
+    return results;
+}
+
+// Sets a variable for as long as the object lives, then puts back its value.
+template <class T>
+class Restore {
+public:
+    Restore(T& variable, T value) : variable_(variable), saved_(variable) { variable_ = value; }
+    ~Restore() { variable_ = saved_; }
+    Restore(const Restore&) = delete;
+    Restore& operator=(const Restore&) = delete;
+
+private:
+    T& variable_;
+    T saved_;
+};
+
+[[noreturn]] void raiseArgumentError(const std::string& function, void (*raise)()) {
+    try {
+        raise();
+    } catch (const except::IMsgIDException& failure) {
+        throw userErrorFrom(failure, function);
+    }
+    throw std::logic_error("argument error not raised");
+}
+
+}  // namespace
+
+bool Interpreter::isCallable(const std::string& name, const Values& args) const {
+    if (functions_.contains(name) || interp::isFunction(name) || services::svLookupBuiltin(name) != nullptr) return true;
+    const auto inputs = pointersTo(args);
+    return ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
+}
+
+Interpreter::Values Interpreter::callFunction(const std::string& name, const Values& args, int nargout) {
+    const auto inputs = pointersTo(args);
+    const bool method = ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
+    if (!method) {
+        if (const auto found = functions_.find(name); found != functions_.end()) return callUser(found->second, args, nargout);
+    }
+    if (method || interp::isFunction(name)) return callBuiltin(name, args, nargout);
+    if (const value::BuiltinFunction builtin = services::svLookupBuiltin(name)) {
+        return invoke(name, args, nargout, builtin);
+    }
+    except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));
+}
+
+Interpreter::Values Interpreter::callBuiltin(const std::string& name, const Values& args, int nargout) {
+    return invoke(name, args, nargout, [&name](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
+                                               const ValueArray* const* prhs) {
+        interp::callFunction(name, nlhs, plhs, nrhs, prhs);
+    });
+}
+
+Interpreter::Values Interpreter::callNamespaceFunction(const std::string& path, const Values& args, int nargout) {
+    return invoke(path, args, nargout, [&path](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
+                                               const ValueArray* const* prhs) {
+        ocos::callNamespaceFunction(path, nlhs, plhs, nrhs, prhs);
+    });
+}
+
+Interpreter::Values Interpreter::callUser(const UserFunction& function, const Values& args, int nargout) {
+    const lang::FunctionDef& def = *function.def;
+    if (args.size() > def.inputs.size()) raiseArgumentError(def.name, except::throwTooManyInputs);
+    if (static_cast<std::size_t>(nargout) > def.outputs.size()) raiseArgumentError(def.name, except::throwTooManyOutputs);
+    if (callDepth_ >= kMaxCallDepth) except::throwMessage(RecursionLimit(kMaxCallDepth));
+
+    Workspace local;
+    for (std::size_t i = 0; i < args.size(); ++i)
+        if (def.inputs[i] != "~") local.set(def.inputs[i], args[i]);
+    local.set("nargin", ValueArray::scalar(static_cast<double>(args.size())));
+    local.set("nargout", ValueArray::scalar(nargout));
+
+    {
+        const Restore<Workspace*> workspace(current_, &local);
+        const Restore<std::size_t> depth(callDepth_, callDepth_ + 1);
+        const interp::FrameGuard frame({function.file, text::utf8ToUtf16(def.name), def.pos.line});
+        try {
+            execBlock(def.body);
+        } catch (const except::IMsgIDException& failure) {
+            throw userErrorFrom(failure);  // while this call's frame is on the stack
+        }
+    }
+
+    Values results;
+    const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(nargout, 1)), def.outputs.size());
+    for (std::size_t i = 0; i < wanted; ++i) {
+        const ValueArray* output = local.find(def.outputs[i]);
+        if (output != nullptr) {
+            results.push_back(*output);
+        } else if (static_cast<int>(i) < nargout) {
+            except::throwMessage(OutputNotSet(text::utf8ToUtf16(def.outputs[i]), text::utf8ToUtf16(def.name)));
+        } else {
+            break;
+        }
+    }
+    return results;
+}
+
+}  // namespace orrery::shell::eval

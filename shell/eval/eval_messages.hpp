@@ -1,0 +1,32 @@
+// Catalogue keys of the language errors the evaluator raises itself.
+#pragma once
+
+#include <orrery/except/message_id.hpp>
+
+namespace orrery::shell::eval {
+
+/// {0}: class.
+ORRERY_MESSAGE_KEY(NotIndexable, "ORRERY:shell:notIndexable");
+/// {0}: class; {1}: field.
+ORRERY_MESSAGE_KEY(NoFields, "ORRERY:shell:noFields");
+/// {0}: the struct array's size.
+ORRERY_MESSAGE_KEY(StructArrayField, "ORRERY:shell:structArrayField");
+ORRERY_MESSAGE_KEY(BadFieldName, "ORRERY:shell:badFieldName");
+ORRERY_MESSAGE_KEY(NoValue, "ORRERY:shell:noValue");
+/// {0}: the number of values.
+ORRERY_MESSAGE_KEY(ManyValues, "ORRERY:shell:manyValues");
+/// {0}: function.
+ORRERY_MESSAGE_KEY(NoOutput, "ORRERY:shell:noOutput");
+/// {0}: output; {1}: function.
+ORRERY_MESSAGE_KEY(OutputNotSet, "ORRERY:shell:outputNotSet");
+/// {0}: function.
+ORRERY_MESSAGE_KEY(EndInCall, "ORRERY:shell:endInCall");
+/// {0}: limit.
+ORRERY_MESSAGE_KEY(RecursionLimit, "ORRERY:shell:recursionLimit");
+ORRERY_MESSAGE_KEY(TooDeepToRun, "ORRERY:shell:tooDeepToRun");
+ORRERY_MESSAGE_KEY(SwitchValue, "ORRERY:shell:switchValue");
+/// {0}: class.
+ORRERY_MESSAGE_KEY(ForOverClass, "ORRERY:shell:forOverClass");
+ORRERY_MESSAGE_KEY(OutOfMemory, "ORRERY:shell:outOfMemory");
+
+}  // namespace orrery::shell::eval

@@ -1,0 +1,121 @@
+// The evaluator: runs parsed programs against a base workspace, calls script
+// functions and built-ins, and displays results.
+#pragma once
+
+#include "shell/eval/workspace.hpp"
+#include "shell/lang/ast.hpp"
+#include "shell/values/indexing.hpp"
+
+#include <orrery/value/value_array.hpp>
+
+#include <cstddef>
+#include <iosfwd>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orrery::shell::eval {
+
+/// How deeply script functions may call each other.
+inline constexpr std::size_t kMaxCallDepth = 128;
+
+/// Runs programs. Errors leave run() as orrery::except::QException (language
+/// errors and catalogued failures are turned into one, with the call stack of
+/// the moment they happened); the caller reports them.
+class Interpreter {
+public:
+    /// Results of statements without a semicolon are displayed on `out`.
+    explicit Interpreter(std::ostream& out);
+    ~Interpreter();
+    Interpreter(const Interpreter&) = delete;
+    Interpreter& operator=(const Interpreter&) = delete;
+
+    /// Makes the program's functions callable (replacing those of the same
+    /// name), then runs its statements in the base workspace. A non-empty
+    /// frameName runs them inside a call-stack frame (file, frameName), as a
+    /// script runs; prompt lines run without one.
+    void run(const lang::Program& program, const std::u16string& file, const std::u16string& frameName);
+
+    Workspace& baseWorkspace() { return base_; }
+    /// True when the workspace that is running has the variable.
+    bool isVariable(std::string_view name) const { return current_->contains(name); }
+
+private:
+    enum class Flow { Normal, Break, Continue, Return };
+
+    struct UserFunction {
+        std::shared_ptr<const lang::FunctionDef> def;
+        std::u16string file;
+    };
+
+    /// What 'end' means inside the index arguments being evaluated.
+    struct EndContext {
+        const value::Dims* dims;  // null inside the arguments of a function call
+        std::size_t position;
+        std::size_t count;
+        std::string callee;
+    };
+    class EndScope;
+
+    using Values = std::vector<value::ValueArray>;
+
+    // statements (statements.cpp)
+    Flow execBlock(const lang::Block& block);
+    Flow exec(const lang::Stmt& stmt);
+    Flow execIf(const lang::Stmt& stmt);
+    Flow execFor(const lang::Stmt& stmt);
+    Flow execWhile(const lang::Stmt& stmt);
+    Flow execSwitch(const lang::Stmt& stmt);
+    Flow execTry(const lang::Stmt& stmt);
+    void execExpression(const lang::Stmt& stmt);
+    void execCommand(const lang::Stmt& stmt);
+    bool caseMatches(const value::ValueArray& subject, const value::ValueArray& label);
+
+    // assignments (assignment.cpp)
+    void execAssign(const lang::Stmt& stmt);
+    void execMultiAssign(const lang::Stmt& stmt);
+    void assignTo(const lang::LValue& target, value::ValueArray rhs);
+    value::ValueArray assignChain(const value::ValueArray* base, const std::vector<lang::Suffix>& chain,
+                                  std::size_t k, value::ValueArray rhs);
+    value::ValueArray assignField(const value::ValueArray* base, const std::string& field,
+                                  const std::vector<lang::Suffix>& chain, std::size_t k, value::ValueArray rhs);
+
+    // expressions (expressions.cpp)
+    value::ValueArray eval(const lang::Expr& expr);
+    Values evalMulti(const lang::Expr& expr, int nargout);
+    value::ValueArray evalBinary(const lang::Expr& expr);
+    value::ValueArray evalShortCircuit(const lang::Expr& expr);
+    value::ValueArray evalRange(const lang::Expr& expr);
+    value::ValueArray evalEnd(const lang::Expr& expr);
+    value::ValueArray evalBracketed(const lang::Expr& expr);
+    value::ValueArray applyOperator(lang::Op op, const value::ValueArray& a, const value::ValueArray* b);
+
+    // names, indexing and fields (postfix.cpp)
+    Values evalPostfix(const lang::Expr& expr, int nargout);
+    Values evalName(const std::string& name, const lang::Expr* postfix, int nargout);
+    Values applySuffixes(Values current, const std::vector<lang::Suffix>& suffixes, std::size_t k, int nargout);
+    Values fieldValues(const value::ValueArray& v, const std::string& field);
+    std::vector<values::IndexArg> evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target);
+    std::string dynamicFieldName(const lang::Suffix& suffix);
+    Values evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee);
+
+    // calls (calls.cpp)
+    bool isCallable(const std::string& name, const Values& args) const;
+    Values callFunction(const std::string& name, const Values& args, int nargout);
+    Values callUser(const UserFunction& function, const Values& args, int nargout);
+    Values callBuiltin(const std::string& name, const Values& args, int nargout);
+    Values callNamespaceFunction(const std::string& path, const Values& args, int nargout);
+
+    // display
+    void show(std::string_view name, const value::ValueArray& v);
+
+    std::ostream& out_;
+    Workspace base_;
+    Workspace* current_;
+    std::map<std::string, UserFunction, std::less<>> functions_;
+    std::vector<EndContext> endStack_;
+    std::size_t callDepth_ = 0;
+};
+
+}  // namespace orrery::shell::eval

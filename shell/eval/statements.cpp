@@ -1,0 +1,165 @@
+// Running statements: blocks, control flow, expression statements and commands.
+#include "shell/eval/interpreter.hpp"
+
+#include "shell/display.hpp"
+#include "shell/eval/eval_messages.hpp"
+#include "shell/eval/exception_object.hpp"
+#include "shell/eval/stack_budget.hpp"
+#include "shell/eval/user_error.hpp"
+#include "shell/values/elements.hpp"
+#include "shell/values/operators.hpp"
+
+#include <orrery/except/throw_message.hpp>
+#include <orrery/interp/call_stack.hpp>
+#include <orrery/text/text.hpp>
+
+#include <optional>
+#include <ostream>
+
+namespace orrery::shell::eval {
+
+using lang::StmtKind;
+using value::ClassId;
+using value::ValueArray;
+
+Interpreter::Interpreter(std::ostream& out) : out_(out), current_(&base_) { registerExceptionClass(); }
+Interpreter::~Interpreter() = default;
+
+void Interpreter::run(const lang::Program& program, const std::u16string& file, const std::u16string& frameName) {
+    const StackBudget budget;
+    for (const auto& [name, def] : program.functions) functions_.insert_or_assign(name, UserFunction{def, file});
+    std::optional<interp::FrameGuard> frame;
+    if (!frameName.empty()) frame.emplace(interp::StackEntry{file, frameName, 0});
+    try {
+        execBlock(program.statements);
+    } catch (const except::IMsgIDException& failure) {
+        throw userErrorFrom(failure);  // while the script's frame is still on the stack
+    } catch (const std::bad_alloc&) {
+        throw outOfMemoryError();
+    }
+}
+
+Interpreter::Flow Interpreter::execBlock(const lang::Block& block) {
+    for (const auto& stmt : block) {
+        const Flow flow = exec(*stmt);
+        if (flow != Flow::Normal) return flow;
+    }
+    return Flow::Normal;
+}
+
+Interpreter::Flow Interpreter::exec(const lang::Stmt& stmt) {
+    StackBudget::check();
+    interp::setCurrentLine(stmt.pos.line);
+    switch (stmt.kind) {
+    case StmtKind::Expression: execExpression(stmt); break;
+    case StmtKind::Assign: execAssign(stmt); break;
+    case StmtKind::MultiAssign: execMultiAssign(stmt); break;
+    case StmtKind::Command: execCommand(stmt); break;
+    case StmtKind::If: return execIf(stmt);
+    case StmtKind::For: return execFor(stmt);
+    case StmtKind::While: return execWhile(stmt);
+    case StmtKind::Switch: return execSwitch(stmt);
+    case StmtKind::Try: return execTry(stmt);
+    case StmtKind::Break: return Flow::Break;
+    case StmtKind::Continue: return Flow::Continue;
+    case StmtKind::Return: return Flow::Return;
+    }
+    return Flow::Normal;
+}
+
+Interpreter::Flow Interpreter::execIf(const lang::Stmt& stmt) {
+    for (const auto& clause : stmt.clauses) {
+        if (values::isTrue(eval(*clause.test))) return execBlock(clause.body);
+    }
+    return stmt.hasOtherwise ? execBlock(stmt.otherwise) : Flow::Normal;
+}
+
+Interpreter::Flow Interpreter::execFor(const lang::Stmt& stmt) {
+    const ValueArray range = eval(*stmt.expr);
+    if (range.is(ClassId::Object)) except::throwMessage(ForOverClass(text::asciiToUtf16(range.className())));
+    const std::size_t rows = range.dims().rows();
+    const std::size_t columns = range.isEmpty() ? 0 : range.numel() / rows;
+    for (std::size_t c = 0; c < columns; ++c) {
+        ValueArray column = values::blankLike(range, value::Dims{rows, 1});
+        for (std::size_t r = 0; r < rows; ++r) values::copyElement(column, r, range, c * rows + r);
+        current_->set(stmt.name, std::move(column));
+        const Flow flow = execBlock(stmt.body);
+        if (flow == Flow::Break) break;
+        if (flow == Flow::Return) return flow;
+    }
+    return Flow::Normal;
+}
+
+Interpreter::Flow Interpreter::execWhile(const lang::Stmt& stmt) {
+    while (values::isTrue(eval(*stmt.expr))) {
+        const Flow flow = execBlock(stmt.body);
+        if (flow == Flow::Break) break;
+        if (flow == Flow::Return) return flow;
+    }
+    return Flow::Normal;
+}
+
+// A case label matches a number equal to the subject, a text equal to it, or
+// a cell holding either.
+bool Interpreter::caseMatches(const ValueArray& subject, const ValueArray& label) {
+    if (label.is(ClassId::Cell)) {
+        for (std::size_t i = 0; i < label.numel(); ++i)
+            if (caseMatches(subject, label.cellAt(i))) return true;
+        return false;
+    }
+    const bool subjectText = subject.isTextScalarTolerant();
+    const bool labelText = label.isTextScalarTolerant();
+    if (subjectText || labelText) return subjectText && labelText && subject.text() == label.text();
+    if (!values::isNumberLike(subject) || !values::isNumberLike(label) || !subject.isScalar() || !label.isScalar())
+        except::throwMessage(SwitchValue());
+    return subject.realAt(0) == label.realAt(0);
+}
+
+Interpreter::Flow Interpreter::execSwitch(const lang::Stmt& stmt) {
+    const ValueArray subject = eval(*stmt.expr);
+    for (const auto& clause : stmt.clauses) {
+        if (caseMatches(subject, eval(*clause.test))) return execBlock(clause.body);
+    }
+    return stmt.hasOtherwise ? execBlock(stmt.otherwise) : Flow::Normal;
+}
+
+Interpreter::Flow Interpreter::execTry(const lang::Stmt& stmt) {
+    std::optional<except::QException> caught;
+    try {
+        return execBlock(stmt.body);
+    } catch (const except::QException& error) {
+        caught = error;
+    } catch (const except::IMsgIDException& failure) {
+        caught = userErrorFrom(failure);
+    } catch (const std::bad_alloc&) {
+        caught = outOfMemoryError();
+    }
+    recordLastError(*caught);
+    if (!stmt.name.empty()) current_->set(stmt.name, makeExceptionObject(*caught));
+    return execBlock(stmt.otherwise);
+}
+
+void Interpreter::execExpression(const lang::Stmt& stmt) {
+    const lang::Expr& expr = *stmt.expr;
+    if (expr.kind == lang::ExprKind::Name && current_->contains(expr.name)) {
+        if (stmt.printResult) show(expr.name, *current_->find(expr.name));
+        return;
+    }
+    for (auto& result : evalMulti(expr, 0)) {
+        current_->set("ans", result);
+        if (stmt.printResult) show("ans", result);
+    }
+}
+
+void Interpreter::execCommand(const lang::Stmt& stmt) {
+    Values words;
+    for (const auto& word : stmt.words) words.push_back(ValueArray::chars(word));
+    for (auto& result : callFunction(stmt.name, words, 0)) {
+        current_->set("ans", result);
+        if (stmt.printResult) show("ans", result);
+    }
+}
+
+void Interpreter::show(std::string_view name, const ValueArray& v) { display(out_, name, v); }
+
+}  // namespace orrery::shell::eval

@@ -1,0 +1,26 @@
+// Catalogue keys of the errors the lexer and parser raise. Each names the
+// source, the line and the column first.
+#pragma once
+
+#include <orrery/except/message_id.hpp>
+
+namespace orrery::shell::lang {
+
+/// {3}: what was expected; {4}: what was found.
+ORRERY_MESSAGE_KEY(UnexpectedToken, "ORRERY:shell:unexpectedToken");
+ORRERY_MESSAGE_KEY(UnterminatedText, "ORRERY:shell:unterminatedText");
+/// {3}: the character.
+ORRERY_MESSAGE_KEY(BadCharacter, "ORRERY:shell:badCharacter");
+/// {3}: the spelling.
+ORRERY_MESSAGE_KEY(BadNumber, "ORRERY:shell:badNumber");
+ORRERY_MESSAGE_KEY(UnterminatedComment, "ORRERY:shell:unterminatedComment");
+/// {3}: the nesting limit.
+ORRERY_MESSAGE_KEY(TooDeep, "ORRERY:shell:tooDeep");
+ORRERY_MESSAGE_KEY(BadAssignmentTarget, "ORRERY:shell:badAssignmentTarget");
+/// {3}: the keyword (break, continue).
+ORRERY_MESSAGE_KEY(OutsideLoop, "ORRERY:shell:outsideLoop");
+ORRERY_MESSAGE_KEY(MisplacedFunction, "ORRERY:shell:misplacedFunction");
+/// {3}: the function name.
+ORRERY_MESSAGE_KEY(DuplicateFunction, "ORRERY:shell:duplicateFunction");
+
+}  // namespace orrery::shell::lang

@@ -1,0 +1,78 @@
+// The prompt on libedit's line editor.
+#include "shell/prompt/prompt.hpp"
+
+#include "shell/lang/parser.hpp"
+#include "shell/startup/session.hpp"
+
+#include <readline.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <string>
+
+namespace orrery::shell::prompt {
+namespace {
+
+constexpr const char* kPrompt = ">> ";
+constexpr const char* kContinuationPrompt = ".. ";
+constexpr int kHistoryLength = 1000;
+
+struct FreeLine {
+    void operator()(char* line) const noexcept { std::free(line); }
+};
+using Line = std::unique_ptr<char, FreeLine>;
+
+/// Loads the history on construction and saves it on destruction.
+class History {
+public:
+    History() : file_(historyFile()) {
+        using_history();
+        stifle_history(kHistoryLength);
+        if (!file_.empty()) read_history(file_.c_str());
+    }
+    ~History() {
+        if (!file_.empty()) write_history(file_.c_str());
+    }
+    History(const History&) = delete;
+    History& operator=(const History&) = delete;
+
+private:
+    std::filesystem::path file_;
+};
+
+bool isExitWord(const std::string& line) {
+    const auto first = line.find_first_not_of(" \t");
+    const auto last = line.find_last_not_of(" \t;");
+    if (first == std::string::npos) return false;
+    const std::string word = line.substr(first, last - first + 1);
+    return word == "exit" || word == "quit";
+}
+
+}  // namespace
+
+std::filesystem::path historyFile() {
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0') return {};
+    return std::filesystem::path(home) / ".orrery_history";
+}
+
+void runPrompt(eval::Interpreter& interpreter) {
+    const History history;
+    std::string pending;
+    for (;;) {
+        const Line line(readline(pending.empty() ? kPrompt : kContinuationPrompt));
+        if (!line) break;
+        const std::string text(line.get());
+        if (text.find_first_not_of(" \t") != std::string::npos) add_history(line.get());
+        if (pending.empty() && isExitWord(text)) break;
+        pending += text + "\n";
+        if (lang::needsMoreInput(pending)) continue;
+        startup::runSource(interpreter, pending, u"<prompt>", u"");
+        pending.clear();
+    }
+    std::cout << "\n";
+    std::cout.flush();
+}
+
+}  // namespace orrery::shell::prompt

@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Drives the orrery prompt through a pseudo-terminal (tmux): results show, an
+# error is reported and the session goes on, a block typed over several lines
+# runs once complete, `exit` ends the session and the history file is written.
+# Exits 77 (skipped) when tmux is not installed.
+set -euo pipefail
+
+orrery=${1:?usage: prompt_test.sh PATH-TO-ORRERY}
+if ! command -v tmux >/dev/null 2>&1; then
+  echo "tmux is not installed: skipping the prompt test"
+  exit 77
+fi
+
+work=$(mktemp -d)
+socket="orrery-prompt-$$"
+cleanup() {
+  tmux -L "$socket" kill-server >/dev/null 2>&1 || true
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+screen() { tmux -L "$socket" capture-pane -p -t prompt -S -100; }
+send() { tmux -L "$socket" send-keys -t prompt -l "$1"; tmux -L "$socket" send-keys -t prompt Enter; }
+wait_for() {
+  for _ in $(seq 1 100); do
+    if screen | grep -qF -- "$1"; then return 0; fi
+    sleep 0.1
+  done
+  echo "FAIL: the screen never showed: $1"
+  echo "---- screen ----"
+  screen
+  exit 1
+}
+
+tmux -L "$socket" -f /dev/null new-session -d -s prompt -x 120 -y 50 \
+  "env HOME='$work' '$orrery'; echo SESSION-ENDED status=\$?; sleep 60"
+
+wait_for '>>'
+send 'x = 41'
+wait_for 'x = 41'
+send 'undefinedName(1)'
+wait_for "Error: 'undefinedName' is not a defined function or variable."
+send 'y = x + 1'
+wait_for 'y = 42'
+send 'for k = 1:2'
+send 'disp(k * 10)'
+send 'end'
+wait_for '20'
+send 'exit'
+wait_for 'SESSION-ENDED status=0'
+
+# libedit writes blanks in the history file as \040
+if ! grep -qE 'y( |\\040)=( |\\040)x' "$work/.orrery_history"; then
+  echo "FAIL: the history file does not hold the lines typed"
+  exit 1
+fi
+echo "prompt test passed"
