@@ -77,6 +77,11 @@ ValueArray makeStruct(Arguments arguments) {
 void bnStruct(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
     checkArgumentCounts(nlhs, 1, nrhs, 0, anyCount);
     if (nrhs == 1) {
+        // struct([]) is the empty 0-by-0 structure without fields.
+        if (prhs[0]->is(ClassId::Double) && prhs[0]->isEmpty()) {
+            plhs[0] = makeValue(ValueArray::structArray(value::Dims{0, 0}));
+            return;
+        }
         if (!prhs[0]->is(ClassId::Struct)) except::throwMessage(messages::StructNotStruct());
         plhs[0] = makeValue(*prhs[0]);
         return;
