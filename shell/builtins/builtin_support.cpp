@@ -13,9 +13,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using value::ClassId;
-using value::ValueArray;
-
 std::u16string wide(std::string_view ascii) { return text::asciiToUtf16(ascii); }
 
 bool isIntegerValued(double x) { return std::isfinite(x) && x == std::floor(x); }

@@ -2,16 +2,28 @@
 // the reading of common kinds of arguments.
 #pragma once
 
+#include <orrery/except/argument_errors.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace orrery::shell::builtins {
+
+// Names every group uses.
+using except::checkArgumentCounts;
+using value::ClassId;
+using value::makeValue;
+using value::ValueArray;
+using value::ValueArrayPtr;
+
+/// The largest count: a built-in that takes any number of inputs.
+inline constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
 
 /// One row of a group's table: the language name and the built-in behind it.
 /// keepExisting marks functions the platform may define itself (isscalar,

@@ -17,14 +17,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
-constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
-
 ClassId numericClassNamed(std::string_view name, std::string_view function) {
     for (int id = 0; id <= static_cast<int>(ClassId::UInt64); ++id)
         if (value::className(static_cast<ClassId>(id)) == name) return static_cast<ClassId>(id);

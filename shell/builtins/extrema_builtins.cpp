@@ -14,12 +14,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
 // Numeric classes stay; logical and char give double.
 ClassId resultClass(const ValueArray& x) { return x.isNumeric() ? x.classId() : ClassId::Double; }
 

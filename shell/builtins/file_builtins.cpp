@@ -44,10 +44,6 @@ namespace builtins {
 namespace {
 
 namespace fs = std::filesystem;
-using except::checkArgumentCounts;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
 
 std::u16string wide(const std::string& utf8) { return text::utf8ToUtf16(utf8); }
 

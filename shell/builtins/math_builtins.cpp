@@ -10,12 +10,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
 // ---- element-wise ------------------------------------------------------------
 
 void bnAbs(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {

@@ -15,12 +15,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
 // A message argument: text, or a numeric or logical scalar.
 catalogue::MessageArgument messageArgument(const ValueArray& v) {
     if (v.isTextScalarTolerant()) return v.text();

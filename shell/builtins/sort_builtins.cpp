@@ -18,11 +18,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
 struct SortRequest {
     Slices slices;
     bool descending = false;

@@ -17,14 +17,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
-constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
-
 // ---- struct ------------------------------------------------------------------
 
 bool isValidFieldName(std::string_view name) {

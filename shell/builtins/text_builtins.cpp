@@ -16,14 +16,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
-constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
-
 void bnDisp(std::int32_t nlhs, ValueArrayPtr*, std::int32_t nrhs, const ValueArray* const* prhs) {
     checkArgumentCounts(nlhs, 0, nrhs, 1, 1);
     writeOutput(dispText(*prhs[0]));

@@ -16,14 +16,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
-constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
-
 [[noreturn]] void cannotConvert(const ValueArray& from, ClassId to) {
     except::throwMessage(messages::CannotConvert(text::utf8ToUtf16(from.className()),
                                                  text::asciiToUtf16(value::className(to))));

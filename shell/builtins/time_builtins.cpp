@@ -18,12 +18,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::ClassId;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
 // ---- dates -------------------------------------------------------------------
 
 // Dates are numbers: text is not read as a date.

@@ -12,13 +12,6 @@
 namespace orrery::shell::builtins {
 namespace {
 
-using except::checkArgumentCounts;
-using value::makeValue;
-using value::ValueArray;
-using value::ValueArrayPtr;
-
-constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
-
 ValueArray sizeRow(const value::Dims& dims) {
     const value::Dims shape{1, dims.count()};
     return ValueArray::doubles(shape, std::vector<double>(dims.sizes().begin(), dims.sizes().end()));
