@@ -54,68 +54,49 @@ std::string identifierOfLength(std::size_t bytes) { return "a:" + std::string(by
 }  // namespace
 
 TEST(MessageInputAnalyzer, ClassifiesTheFirstInput) {
-    struct Case {
-        const char* name;
-        std::vector<ValueArray> inputs;
-        MessageKind kind;
-        std::int32_t identifierIndex;
-        const char* identifier;
-    };
-    const Case cases[] = {
+    // Inputs, then the kind, identifier index and identifier found.
+    const std::tuple<const char*, std::vector<ValueArray>, MessageKind, std::int32_t, const char*> cases[] = {
         {"struct alone", {ValueArray::structArray(Dims{2, 2})}, MessageKind::Structure, -1, ""},
         {"message text", {chars("hello")}, MessageKind::Text, 0, ""},
         {"1-by-0 char is text", {ValueArray::charArray(Dims{1, 0}, u"")}, MessageKind::Text, 0, ""},
         {"identifier and format", {chars("a:b"), chars("x")}, MessageKind::Text, 1, "a:b"},
-        {"string identifier",
-         {ValueArray::string(u"ORRERY:demo:x"), ValueArray::string(u"x")},
-         MessageKind::Text,
-         1,
-         "ORRERY:demo:x"},
+        {"string identifier", {ValueArray::string(u"p:q"), ValueArray::string(u"x")}, MessageKind::Text, 1, "p:q"},
         {"not an identifier", {chars("a::b"), chars("x")}, MessageKind::Text, 0, ""},
         {"non-ASCII text", {ValueArray::chars(u"a:\u00e9"), chars("x")}, MessageKind::Text, 0, ""},
         {"message object", {messageObject()}, MessageKind::MessageObject, -1, ""},
         {"nothing", {}, MessageKind::Unclassified, -1, ""},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        const InputList inputs(c.inputs);
+    for (const auto& [name, values, kind, identifierIndex, identifier] : cases) {
+        SCOPED_TRACE(name);
+        const InputList inputs(values);
         const auto analyzer = analyse(inputs);
-        EXPECT_EQ(analyzer.kind(), c.kind);
-        EXPECT_EQ(analyzer.identifierIndex(), c.identifierIndex);
-        EXPECT_EQ(analyzer.identifier(), c.identifier);
+        EXPECT_EQ(analyzer.kind(), kind);
+        EXPECT_EQ(analyzer.identifierIndex(), identifierIndex);
+        EXPECT_EQ(analyzer.identifier(), identifier);
         EXPECT_TRUE(analyzer.format().empty());
     }
 }
 
 TEST(MessageInputAnalyzer, RejectsInOrderWithTheCallersPrefix) {
-    auto messages = ValueArray::objectArray(ocos::messageClass(), Dims{1, 2});
-    struct Case {
-        const char* name;
-        std::vector<ValueArray> inputs;
-        std::string identifier;
-    };
-    const Case cases[] = {
+    const auto messages = ValueArray::objectArray(ocos::messageClass(), Dims{1, 2});
+    const auto tooLong = chars(identifierOfLength(8192));
+    const std::tuple<const char*, std::vector<ValueArray>, std::string> cases[] = {
         {"struct then more", {ValueArray::structArray(Dims{1, 1}), chars("x")}, kPrefix + "unexpectedArguments"},
-        {"lone identifier", {chars("a:b")}, kPrefix + "missingMessageArgument"},
-        {"identifier then number", {chars("a:b"), ValueArray::scalar(5)}, kPrefix + "badMessageArgument"},
         {"identifier then missing string", {chars("a:b"), ValueArray::missingString()}, kPrefix + "badMessageArgument"},
-        {"text check before length",
-         {chars(identifierOfLength(8192)), ValueArray::scalar(5)},
-         kPrefix + "badMessageArgument"},
+        {"text check before length", {tooLong, ValueArray::scalar(5)}, kPrefix + "badMessageArgument"},
         {"message object then more", {messages, chars("x")}, "ORRERY:builtins:InvalidNumberOfArguments"},
         {"message object array", {messages}, "ORRERY:QException:NonScalarMessage"},
         {"other object", {neverScalarObject()}, kPrefix + "invalidMessageType"},
         {"number", {ValueArray::scalar(3)}, kPrefix + "invalidMessageType"},
-        {"cell", {ValueArray::cell(Dims{1, 1})}, kPrefix + "invalidMessageType"},
         {"0-by-0 char", {ValueArray::charArray(Dims{0, 0}, u"")}, kPrefix + "invalidMessageType"},
         {"char matrix", {ValueArray::charArray(Dims{2, 2}, u"abcd")}, kPrefix + "invalidMessageType"},
         {"missing string", {ValueArray::missingString()}, kPrefix + "invalidMessageType"},
         {"string array", {ValueArray::strings(Dims{1, 2}, {u"a", u"b"})}, kPrefix + "invalidMessageType"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        const InputList inputs(c.inputs);
-        EXPECT_MSGID(analyse(inputs), c.identifier);
+    for (const auto& [name, values, identifier] : cases) {
+        SCOPED_TRACE(name);
+        const InputList inputs(values);
+        EXPECT_MSGID(analyse(inputs), identifier);
     }
 }
 
@@ -145,10 +126,6 @@ TEST(MessageInputAnalyzer, FormatArgumentsMustBeScalarWhenLogicalOrObject) {
 }
 
 TEST(MessageInputAnalyzer, FormatsWithTheLanguagesSprintf) {
-    const InputList literal{chars("Result 100% done\\n")};
-    EXPECT_EQ(formatted(literal), "Result 100% done\\n");
-    const InputList cycled{chars("a:b"), chars("%d,"), ValueArray::doubles(Dims{1, 3}, {1, 2, 3})};
-    EXPECT_EQ(formatted(cycled), "1,2,3,");
     const InputList noIdentifier{chars("value %d\\t!"), ValueArray::scalar(5)};
     EXPECT_EQ(formatted(noIdentifier), "value 5\t!");
     const InputList stringFormat{chars("a:b"), ValueArray::string(u"%s and %s"), chars("x"), chars("y")};

@@ -23,13 +23,11 @@ using orrery::value::ValueArray;
 /// Calls name with the inputs, asking for nlhs outputs; returns the slots that
 /// were filled (an unfilled slot is a 0-by-0 double), at least one.
 inline std::vector<ValueArray> call(std::string_view name, int nlhs, const std::vector<ValueArray>& inputs) {
-    static const bool registered = (orrery::shell::registerHostBuiltins(), true);
-    (void)registered;
+    [[maybe_unused]] static const bool registered = (orrery::shell::registerHostBuiltins(), true);
     std::vector<const ValueArray*> pointers;
     for (const ValueArray& input : inputs) pointers.push_back(&input);
     std::vector<orrery::value::ValueArrayPtr> slots(static_cast<std::size_t>(nlhs > 0 ? nlhs : 1));
-    orrery::interp::callFunction(name, nlhs, slots.data(), static_cast<std::int32_t>(pointers.size()),
-                                 pointers.data());
+    orrery::interp::callFunction(name, nlhs, slots.data(), static_cast<std::int32_t>(pointers.size()), pointers.data());
     std::vector<ValueArray> outputs;
     for (auto& slot : slots) outputs.push_back(slot ? *slot : ValueArray());
     return outputs;
@@ -41,13 +39,10 @@ inline ValueArray call1(std::string_view name, const std::vector<ValueArray>& in
 }
 
 inline ValueArray num(double x) { return ValueArray::scalar(x); }
-inline ValueArray row(std::vector<double> values) {
-    const std::size_t n = values.size();
-    return ValueArray::doubles(Dims{1, n}, std::move(values));
-}
 inline ValueArray matrix(std::size_t rows, std::size_t cols, std::vector<double> columnMajor) {
     return ValueArray::doubles(Dims{rows, cols}, std::move(columnMajor));
 }
+inline ValueArray row(std::vector<double> values) { return matrix(1, values.size(), values); }
 inline ValueArray txt(std::u16string_view text) { return ValueArray::chars(text); }
 inline ValueArray str(std::u16string_view text) { return ValueArray::string(text); }
 inline ValueArray cellRow(std::initializer_list<ValueArray> elements) {
@@ -66,25 +61,20 @@ inline std::vector<double> numbers(const ValueArray& v) {
 
 inline bool truth(const ValueArray& v) { return v.is(ClassId::Logical) && v.isScalar() && v.logicalAt(0); }
 
-/// Collects what is written to standard output and standard error while it lives.
+/// Collects what is written to a stream (std::cout, std::cerr) while it lives.
 class CapturedOutput {
 public:
-    CapturedOutput() : out_(std::cout.rdbuf(outText_.rdbuf())), err_(std::cerr.rdbuf(errText_.rdbuf())) {}
-    ~CapturedOutput() {
-        std::cout.rdbuf(out_);
-        std::cerr.rdbuf(err_);
-    }
+    explicit CapturedOutput(std::ostream& stream) : stream_(stream), saved_(stream.rdbuf(text_.rdbuf())) {}
+    ~CapturedOutput() { stream_.rdbuf(saved_); }
     CapturedOutput(const CapturedOutput&) = delete;
     CapturedOutput& operator=(const CapturedOutput&) = delete;
 
-    std::string out() const { return outText_.str(); }
-    std::string err() const { return errText_.str(); }
+    std::string text() const { return text_.str(); }
 
 private:
-    std::ostringstream outText_;
-    std::ostringstream errText_;
-    std::streambuf* out_;
-    std::streambuf* err_;
+    std::ostream& stream_;
+    std::ostringstream text_;
+    std::streambuf* saved_;
 };
 
 }  // namespace builtin_test

@@ -13,7 +13,6 @@ TEST(MessageBuiltins, MakeAMessageAndFormatItsText) {
 
     EXPECT_MSGID(call1("message", {txt(u"ORRERY:host:no:suchEntry")}), "ORRERY:host:message:unknownIdentifier");
     EXPECT_MSGID(call1("message", {num(1)}), "ORRERY:host:notText");
-    EXPECT_MSGID(call1("message", {txt(u"ORRERY:host:file:notFound"), cellRow({})}),
-                 "ORRERY:host:message:badArgument");
+    EXPECT_MSGID(call1("message", {txt(u"ORRERY:host:file:notFound"), cellRow({})}), "ORRERY:host:message:badArgument");
     EXPECT_MSGID(call1("getString", {txt(u"text")}), "ORRERY:host:notMessage");
 }

