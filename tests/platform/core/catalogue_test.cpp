@@ -4,53 +4,36 @@
 
 #include <orrery/catalogue/catalogue.hpp>
 #include <orrery/catalogue/message_content.hpp>
-#include <orrery/text/text.hpp>
-
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
 #include <set>
-#include <sstream>
 
 using namespace orrery::catalogue;
-using orrery::text::utf16ToUtf8;
 
-TEST(Catalogue, FormatsNumbersWithoutGrouping) {
+TEST(Catalogue, FormatsKnownEntriesAndReportsMissingOnes) {
     const MessageArgument limit[] = {8191.0};
-    const std::string text = formatMessageUtf8("ORRERY:msgInputAnalyzer:identifierTooLong", limit);
-    EXPECT_NE(text.find("8191"), std::string::npos) << text;
-}
-
-TEST(Catalogue, FillsTextArgumentsInOrder) {
+    const std::string number = formatMessageUtf8("ORRERY:msgInputAnalyzer:identifierTooLong", limit);
+    EXPECT_NE(number.find("8191"), std::string::npos) << number;
     const MessageArgument args[] = {std::u16string(u"ORRERY:a:b"), std::u16string(u"off")};
     const std::string text = formatMessageUtf8("ORRERY:warning:stateOfWarningIs", args);
     EXPECT_LT(text.find("ORRERY:a:b"), text.find("off")) << text;
-}
-
-TEST(Catalogue, ReportsMissingEntries) {
+    const MessageContent content{"ORRERY:assertion:failed", {}};
+    EXPECT_EQ(content.component() + "|" + content.key(), "ORRERY:assertion|failed");
     EXPECT_TRUE(hasMessage("ORRERY:error:badStackLine"));
     EXPECT_FALSE(hasMessage("ORRERY:error:noSuchMnemonic"));
     EXPECT_FALSE(hasMessage("ORRERY:error"));  // a table, not a text
     EXPECT_FALSE(hasMessage("ORRERY::x"));
     EXPECT_MSGID(formatMessage("ORRERY:nowhere:atAll"), "ORRERY:catalogue:noSuchMessage");
-    const MessageArgument text[] = {std::u16string(u"abc")};
-    EXPECT_MSGID(formatMessage("ORRERY:msgInputAnalyzer:identifierTooLong", text), "ORRERY:catalogue:argumentMismatch");
+    const MessageArgument abc[] = {std::u16string(u"abc")};
+    EXPECT_MSGID(formatMessage("ORRERY:msgInputAnalyzer:identifierTooLong", abc), "ORRERY:catalogue:argumentMismatch");
 }
-
-TEST(Catalogue, MessageContentSplitsItsIdentifier) {
-    const MessageContent content{"ORRERY:assertion:failed", {}};
-    EXPECT_EQ(content.component(), "ORRERY:assertion");
-    EXPECT_EQ(content.key(), "failed");
-    EXPECT_EQ(utf16ToUtf8(content.text()), "Assertion failed.");
-}
-
-namespace {
 
 // The message input analyzer raises its caller's prefix plus a mnemonic whose
 // text is the "ORRERY:msgInputAnalyzer" entry of that mnemonic.
-bool isAnalyzerIdentifier(const std::string& id) {
+static bool isAnalyzerIdentifier(const std::string& id) {
     const auto mnemonic = id.substr(id.rfind(':') + 1);
     return (id.starts_with("ORRERY:error:") || id.starts_with("ORRERY:warning:")) &&
            hasMessage("ORRERY:msgInputAnalyzer:" + mnemonic);
@@ -58,9 +41,10 @@ bool isAnalyzerIdentifier(const std::string& id) {
 
 // Identifier literals in the sources; prefixes ("ORRERY:error:") and bare
 // components are not identifiers.
-std::set<std::string> identifierLiterals() {
-    static const std::set<std::string> notIdentifiers = {"ORRERY:legacy_two_part", "ORRERY:error", "ORRERY:warning:LogFile",
-                                                         "ORRERY:warning:XMLParser", "ORRERY:msgInputAnalyzer"};
+static std::set<std::string> identifierLiterals() {
+    static const std::set<std::string> notIdentifiers = {"ORRERY:legacy_two_part", "ORRERY:error",
+                                                         "ORRERY:warning:LogFile", "ORRERY:warning:XMLParser",
+                                                         "ORRERY:msgInputAnalyzer"};
     const std::regex literal("\"(ORRERY:[A-Za-z0-9_:-]+)\"");
     std::set<std::string> found;
     for (const char* folder : {"platform", "diagnostic", "shell"}) {
@@ -70,9 +54,7 @@ std::set<std::string> identifierLiterals() {
             const auto extension = entry.path().extension();
             if (extension != ".cpp" && extension != ".hpp") continue;
             std::ifstream in(entry.path());
-            std::stringstream buffer;
-            buffer << in.rdbuf();
-            const std::string source = buffer.str();
+            const std::string source{std::istreambuf_iterator<char>(in), {}};
             for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
                 const std::string id = (*it)[1];
                 if (id.back() != ':' && !notIdentifiers.contains(id) && !isAnalyzerIdentifier(id)) found.insert(id);
@@ -81,8 +63,6 @@ std::set<std::string> identifierLiterals() {
     }
     return found;
 }
-
-}  // namespace
 
 TEST(Catalogue, HasATextForEveryIdentifierInTheSources) {
     const auto identifiers = identifierLiterals();

@@ -6,23 +6,19 @@
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
-#include <string>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
 using namespace orrery::files;
+using namespace orrery::text;
 
 namespace {
 
-std::u16string u16(const fs::path& path) { return orrery::text::utf8ToUtf16(path.string()); }
-std::u16string u16(const std::string& text) { return orrery::text::utf8ToUtf16(text); }
-
-std::string narrow(const std::u16string& text) { return orrery::text::utf16ToUtf8(text); }
-
-std::u16string applied(void (*helper)(std::u16string&), std::u16string path) {
-    helper(path);
-    return path;
+/// Runs an in-place helper on the UTF-8 path and gives the result in UTF-8.
+std::string applied(void (*helper)(std::u16string&), const std::string& path) {
+    std::u16string text = utf8ToUtf16(path);
+    helper(text);
+    return utf16ToUtf8(text);
 }
 
 /// A fresh folder holding the file "exists.txt", the folder "sub" and the link "link" to "sub".
@@ -38,102 +34,55 @@ protected:
     }
     void TearDown() override { fs::remove_all(root_); }
 
-    std::u16string resolved(const std::string& relative) const {
-        return applied(resolveCanonicalIfExistsElseAbsolute, u16(root_.string() + "/" + relative));
-    }
-    std::u16string under(const std::string& relative) const { return u16(root_ / relative); }
+    std::string under(const std::string& relative) const { return root_.string() + "/" + relative; }
 
     fs::path root_;
 };
 
 }  // namespace
 
-TEST_F(PathsTest, ResolvingGivesCanonicalOrAbsolutePaths) {
-    struct Case { const char* given; const char* expected; };
-    const Case cases[] = {
-        {"exists.txt", "exists.txt"},
-        {"sub/../exists.txt", "exists.txt"},
-        {"./sub/", "sub"},
-        {"link", "sub"},
-        {"link/new.xml", "sub/new.xml"},
-        {"missing/../log.xml", "log.xml"},
-        {"sub/./missing.xml", "sub/missing.xml"},
+TEST_F(PathsTest, ResolvingGivesCanonicalOrAbsolutePathsAndIsDirFollowsLinks) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"sub/../exists.txt", "exists.txt"}, {"link/new.xml", "sub/new.xml"},
+        {"missing/../log.xml", "log.xml"},   {"missing/", "missing/"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.given);
-        EXPECT_EQ(narrow(resolved(c.given)), narrow(under(c.expected)));
+    for (const auto& [given, expected] : cases) {
+        EXPECT_EQ(applied(resolveCanonicalIfExistsElseAbsolute, under(given)), under(expected)) << given;
     }
-    EXPECT_EQ(narrow(resolved("missing/")), narrow(under("missing/")));
-    EXPECT_EQ(applied(resolveCanonicalIfExistsElseAbsolute, u""), u"");
-}
-
-TEST_F(PathsTest, ResolvingARelativePathStartsAtTheCurrentFolder) {
+    EXPECT_EQ(applied(resolveCanonicalIfExistsElseAbsolute, ""), "");
+    // A relative path starts at the current folder.
     const fs::path before = fs::current_path();
     fs::current_path(root_ / "sub");
-    EXPECT_EQ(narrow(applied(resolveCanonicalIfExistsElseAbsolute, u"../exists.txt")), narrow(under("exists.txt")));
-    EXPECT_EQ(narrow(applied(resolveCanonicalIfExistsElseAbsolute, u"mylog")), narrow(under("sub/mylog")));
+    EXPECT_EQ(applied(resolveCanonicalIfExistsElseAbsolute, "../missing"), under("missing"));
     fs::current_path(before);
+    EXPECT_TRUE(isDir(utf8ToUtf16(under("link/"))));
+    EXPECT_FALSE(isDir(utf8ToUtf16(under("exists.txt"))));
+    EXPECT_FALSE(isDir(utf8ToUtf16(under("missing"))));
 }
 
-TEST(Paths, SingleDotsAreRemovedAndNothingElse) {
-    struct Case { const char16_t* given; const char16_t* expected; };
+TEST(Paths, DotsAreHandledLexically) {
+    struct Case { void (*helper)(std::u16string&); const char* given; const char* expected; };
     const Case cases[] = {
-        {u"/a/./b", u"/a/b"}, {u"./a", u"a"},         {u"a/.", u"a/"},          {u"a/./", u"a/"},
-        {u".", u"."},         {u"./.", u"."},         {u"/a/../b", u"/a/../b"}, {u"/.hidden/x.", u"/.hidden/x."},
-        {u"", u""},
+        // Single dots are removed, and nothing else.
+        {handleSingleDots, "/a/./b", "/a/b"}, {handleSingleDots, "./a", "a"}, {handleSingleDots, "a/.", "a/"},
+        {handleSingleDots, "./.", "."}, {handleSingleDots, "/.hidden/../x.", "/.hidden/../x."},
+        // A double dot removes the component before it.
+        {handleDotDots, "/a/b/../c", "/a/c"}, {handleDotDots, "/../a", "/a"}, {handleDotDots, "../a", "../a"},
+        {handleDotDots, "a/b/../../..", ".."}, {handleDotDots, "/a/./b//c", "/a/b/c"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(narrow(c.given));
-        EXPECT_EQ(narrow(applied(handleSingleDots, c.given)), narrow(c.expected));
-    }
-}
-
-TEST(Paths, DotDotsRemoveTheComponentBeforeThem) {
-    struct Case { const char16_t* given; const char16_t* expected; };
-    const Case cases[] = {
-        {u"/a/b/../c", u"/a/c"}, {u"/../a", u"/a"},      {u"../a", u"../a"},       {u"a/b/../../..", u".."},
-        {u"/a/./b//c", u"/a/b/c"}, {u"/a/b/..", u"/a/"}, {u"a/..", u"."},          {u"", u""},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(narrow(c.given));
-        EXPECT_EQ(narrow(applied(handleDotDots, c.given)), narrow(c.expected));
-    }
-}
-
-TEST_F(PathsTest, IsDirFollowsLinksAndRejectsFilesAndMissingPaths) {
-    EXPECT_TRUE(isDir(under("sub")));
-    EXPECT_TRUE(isDir(under("sub") + u"/"));
-    EXPECT_TRUE(isDir(under("link")));
-    EXPECT_FALSE(isDir(under("exists.txt")));
-    EXPECT_FALSE(isDir(under("missing")));
-    EXPECT_FALSE(isDir(u""));
+    for (const auto& c : cases) EXPECT_EQ(applied(c.helper, c.given), c.expected) << c.given;
 }
 
 TEST(Paths, ExtensionIsThatOfTheLastComponentWithoutItsDot) {
-    struct Case { const char16_t* given; const char16_t* expected; };
-    const Case cases[] = {
-        {u"x.XML", u"XML"}, {u"/t/log.xml", u"xml"}, {u"a.b/c", u""}, {u"a.tar.gz", u"gz"},
-        {u".profile", u""}, {u"a.", u""},            {u"dir/", u""},  {u"", u""},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(narrow(c.given));
-        EXPECT_EQ(narrow(extensionOf(c.given)), narrow(c.expected));
+    const std::pair<const char*, const char*> cases[] = {{"x.XML", "XML"}, {"a.b/c", ""}, {".profile", ""}, {"a.", ""}};
+    for (const auto& [given, expected] : cases) {
+        EXPECT_EQ(utf16ToUtf8(extensionOf(utf8ToUtf16(given))), expected) << given;
     }
-}
-
-TEST(Paths, NativeFormKeepsNonAsciiNames) {
     EXPECT_EQ(nativeForm(u"/tmp/\u00E9t\u00E9/log.xml"), u"/tmp/\u00E9t\u00E9/log.xml");
 }
 
 TEST(Paths, InvalidUtf16IsATextError) {
-    const std::u16string bad = std::u16string(u"/tmp/") + char16_t(0xD800) + u".xml";
-    const std::function<void()> calls[] = {
-        [&] { std::u16string p = bad; resolveCanonicalIfExistsElseAbsolute(p); },
-        [&] { std::u16string p = bad; handleSingleDots(p); },
-        [&] { std::u16string p = bad; handleDotDots(p); },
-        [&] { isDir(bad); },
-        [&] { nativeForm(bad); },
-        [&] { extensionOf(bad); },
-    };
-    for (const auto& call : calls) EXPECT_MSGID(call(), "ORRERY:text:invalidUtf16");
+    std::u16string bad = std::u16string(u"/tmp/") + char16_t(0xD800) + u".xml";
+    EXPECT_MSGID(handleSingleDots(bad), "ORRERY:text:invalidUtf16");
+    EXPECT_MSGID(isDir(bad), "ORRERY:text:invalidUtf16");
 }

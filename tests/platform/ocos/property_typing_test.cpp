@@ -3,88 +3,36 @@
 #include "gadget_class.hpp"
 #include "tests/support/expect_error.hpp"
 
-#include <orrery/ocos/message_object.hpp>
-#include <orrery/ocos/object_access.hpp>
-
-#include <stdexcept>
-
-using namespace orrery::ocos;
 using namespace ocos_test;
 using orrery::value::ClassId;
-using orrery::value::Dims;
 
-namespace {
-
-struct TypingCase {
-    const char* property;
-    ValueArray value;
-};
-
-ValueArray otherClassObject() {
-    static const auto other = std::make_shared<COSClassInfo>("test.ocos.Other");
-    return ValueArray::objectArray(other, Dims{1, 1});
-}
-
-}  // namespace
-
-TEST(PropertyTyping, AcceptsValuesOfTheDeclaredType) {
-    const TypingCase cases[] = {
-        {"label", ValueArray::chars(u"plain")},
-        {"label", ValueArray::chars(u"")},  // 0-by-0
-        {"label", ValueArray::charArray(Dims{1, 0}, u"")},
-        {"label", ValueArray::string(u"text")},
-        {"label", ValueArray::missingString()},
-        {"title", ValueArray::chars(u"caf\u00e9")},
-        {"title", ValueArray::string(u"\u03a9")},
-        {"items", ValueArray::cell(Dims{2, 3})},
-        {"record", ValueArray::structArray(Dims{0, 0}, {"a"})},
-        {"numbers", ValueArray::doubles(Dims{1, 3}, {1, 2, 3})},
-        {"numbers", ValueArray()},
-        {"weight", ValueArray::scalar(2.5)},
-        {"flags", ValueArray::logicals(Dims{2, 1}, {true, false})},
-        {"active", ValueArray::logicalScalar(true)},
-        {"peer", makeGadget("other")},
+TEST(PropertyTyping, AcceptsValuesOfTheDeclaredTypeOnlyAndRefusesBeforeTheSetterRuns) {
+    const auto other = std::make_shared<COSClassInfo>("test.ocos.Other");
+    struct Case { const char* property; ValueArray value; bool accepted; };
+    const Case cases[] = {
+        {"label", ValueArray::chars(u"plain"), true}, {"label", ValueArray::missingString(), true},
+        {"label", ValueArray::chars(u""), true},  // 0-by-0
+        {"label", ValueArray::chars(u"caf\u00e9"), false}, {"label", ValueArray::charArray(Dims{2, 1}, u"ab"), false},
+        {"title", ValueArray::string(u"\u03a9"), true}, {"title", ValueArray::missingString(), false},
+        {"items", ValueArray::cell(Dims{2, 3}), true}, {"items", ValueArray::structArray(Dims{1, 1}), false},
+        {"record", ValueArray::structArray(Dims{0, 0}, {"a"}), true}, {"record", ValueArray::cell(Dims{1, 1}), false},
+        {"numbers", ValueArray::doubles(Dims{1, 3}, {1, 2, 3}), true}, {"weight", ValueArray::scalar(2.5), true},
+        {"numbers", ValueArray::numericScalar(ClassId::Single, 1), false}, {"weight", ValueArray(), false},
+        {"weight", ValueArray::doubles(Dims{1, 2}, {1, 2}), false}, {"flags", ValueArray::scalar(1), false},
+        {"weight", ValueArray::numericScalar(ClassId::Int32, 3), false}, {"active", ValueArray::scalar(1), false},
+        {"flags", ValueArray::logicals(Dims{2, 1}, {true, false}), true}, {"peer", makeGadget("other"), true},
+        {"active", ValueArray::logicalScalar(true), true}, {"peer", ValueArray::objectArray(other, Dims{1, 1}), false},
     };
-    for (const auto& [property, value] : cases) {
-        SCOPED_TRACE(std::string(property) + " <- " + value.className() + " " + value.dims().text());
-        ValueArray gadget = makeGadget("g");
-        const int before = gadgetAt(gadget).writes;
-        setProperty(gadget, 0, property, value);
-        EXPECT_EQ(gadgetAt(gadget).writes, before + 1);
-    }
-}
-
-TEST(PropertyTyping, RefusesOtherValuesBeforeTheSetterRuns) {
-    const TypingCase cases[] = {
-        {"label", ValueArray::chars(u"caf\u00e9")},
-        {"label", ValueArray::string(u"\u00e9")},
-        {"label", ValueArray::charArray(Dims{2, 1}, u"ab")},
-        {"label", ValueArray::strings(Dims{1, 2}, {u"a", u"b"})},
-        {"label", ValueArray::scalar(5)},
-        {"title", ValueArray::missingString()},
-        {"title", ValueArray::cell(Dims{1, 1})},
-        {"items", ValueArray::structArray(Dims{1, 1})},
-        {"record", ValueArray::cell(Dims{1, 1})},
-        {"numbers", ValueArray::numericScalar(ClassId::Single, 1)},
-        {"numbers", ValueArray::logicalScalar(true)},
-        {"weight", ValueArray::doubles(Dims{1, 2}, {1, 2})},
-        {"weight", ValueArray()},
-        {"weight", ValueArray::logicalScalar(true)},
-        {"weight", ValueArray::numericScalar(ClassId::Int32, 3)},
-        {"weight", ValueArray::string(u"1")},
-        {"flags", ValueArray::scalar(1)},
-        {"active", ValueArray::scalar(1)},  // numbers are not taken as flags
-        {"active", ValueArray::logicals(Dims{1, 2}, {true, true})},
-        {"peer", otherClassObject()},
-        {"peer", makeMessageObject({"ORRERY:value:notScalar", {}})},
-        {"peer", ValueArray::scalar(0)},
-    };
-    for (const auto& [property, value] : cases) {
-        SCOPED_TRACE(std::string(property) + " <- " + value.className() + " " + value.dims().text());
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.property) + " <- " + c.value.className() + " " + c.value.dims().text());
         ValueArray gadget = makeGadget("g");
         const int writes = gadgetAt(gadget).writes;
-        EXPECT_MSGID(setProperty(gadget, 0, property, value), "ORRERY:ocos:propertyType");
-        EXPECT_EQ(gadgetAt(gadget).writes, writes);
+        if (c.accepted) {
+            setProperty(gadget, 0, c.property, c.value);
+        } else {
+            EXPECT_MSGID(setProperty(gadget, 0, c.property, c.value), "ORRERY:ocos:propertyType");
+        }
+        EXPECT_EQ(gadgetAt(gadget).writes, writes + (c.accepted ? 1 : 0));
     }
     ValueArray gadget = makeGadget("g");
     EXPECT_MSGID_TEXT(setProperty(gadget, 0, "weight", ValueArray::chars(u"heavy")), "ORRERY:ocos:propertyType",
@@ -108,10 +56,8 @@ TEST(PropertyTyping, SettersReceiveConvertedValues) {
 TEST(PropertyTyping, BadDescriptionsAreInternalFaults) {
     const auto get = [](const Gadget& g) { return g.weight; };
     const auto set = [](Gadget& g, double w) { g.weight = w; };
-    const char* badTypes[] = {"string", "Double scalar", "asciistring", "double  scalar", "", "a..b", "1pkg.C"};
-    for (const char* type : badTypes) {
-        SCOPED_TRACE(type);
-        EXPECT_THROW(COSPropInfo("p", type, [](const COSObject&) { return ValueArray(); }), std::logic_error);
+    for (const char* type : {"string", "Double scalar", "asciistring", "double  scalar", "", "a..b", "1pkg.C"}) {
+        EXPECT_THROW(COSPropInfo("p", type, [](const COSObject&) { return ValueArray(); }), std::logic_error) << type;
     }
     // Accessors of one value type cannot serve a property of another.
     EXPECT_THROW(makeProperty<Gadget>("w", "double", get, set), std::logic_error);
