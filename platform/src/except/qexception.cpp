@@ -29,6 +29,11 @@ QException::QException(std::string identifier, std::u16string message, value::Va
     : identifier_(std::move(identifier)), message_(std::move(message)), stack_(std::move(stack)),
       functionName_(std::move(functionName)), text_(describe(message_)) {}
 
+QException::QException(QExceptionEnvelope&& envelope)
+    : identifier_(std::move(envelope.identifier_)), message_(std::move(envelope.message_)),
+      stack_(std::move(*envelope.stack_)), functionName_(std::move(envelope.functionName_)),
+      text_(describe(message_)) {}
+
 QException::~QException() = default;
 
 QException::LastError::Record QException::LastError::Get() { return lastError(); }
@@ -46,7 +51,10 @@ QExceptionEnvelope::QExceptionEnvelope(const catalogue::MessageContent& content)
     : identifier_(content.identifier), message_(content.text()) {}
 
 void QExceptionEnvelope::DoThrow() {
-    throw QException(identifier_, message_, stack_ ? *stack_ : interp::currentStack(0), functionName_);
+    if (!stack_) stack_ = interp::currentStack(0);
+    // Built from the envelope itself, the exception leaves no temporaries for the
+    // unwinder to destroy on this frame.
+    throw QException(std::move(*this));
 }
 
 }  // namespace orrery::except

@@ -10,12 +10,16 @@
 
 namespace orrery::except {
 
+class QExceptionEnvelope;
+
 /// A user error: identifier (UTF-8, may be empty), message (UTF-16), stack array
 /// and the name of the function that reported it (empty for none).
 class ORRERY_API QException : public std::exception {
 public:
     QException(std::string identifier, std::u16string message, value::ValueArray stack,
                std::string functionName);
+    /// Takes over the parts of an envelope whose stack is set (see DoThrow).
+    explicit QException(QExceptionEnvelope&& envelope);
     ~QException() override;
     QException(const QException&) = default;
     QException& operator=(const QException&) = default;

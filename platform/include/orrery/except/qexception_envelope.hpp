@@ -22,10 +22,12 @@ public:
 
     /// The function reported as the error's origin ("" for none).
     void SetFuncName(std::string name) { functionName_ = std::move(name); }
-    /// Raises the error as a QException.
+    /// Raises the error as a QException; the envelope's parts move into it.
     [[noreturn]] void DoThrow();
 
 private:
+    friend class QException;
+
     std::string identifier_;
     std::u16string message_;
     std::optional<value::ValueArray> stack_;
