@@ -1,6 +1,7 @@
 // Display of values: the one-line forms, bodies of the other kinds, and what
 // disp shows, including values that are hard to show. Cells and most display
 // forms are proved by the display_* script tests.
+#include "tests/support/builtin_call.hpp"
 #include "shell/display.hpp"
 
 #include <gtest/gtest.h>
@@ -10,16 +11,12 @@
 #include <limits>
 
 using namespace orrery;
+using orrery::testing::row;
 using value::ClassId;
 using value::Dims;
 using value::ValueArray;
 
 namespace {
-
-ValueArray row(std::vector<double> values) {
-    const std::size_t n = values.size();
-    return ValueArray::doubles(Dims{1, n}, std::move(values));
-}
 
 }  // namespace
 

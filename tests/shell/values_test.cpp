@@ -1,5 +1,6 @@
 // Operations on values: the refusals of operators, indexed assignment and
 // concatenation, class rules, ranges and conditions.
+#include "tests/support/builtin_call.hpp"
 #include "shell/values/concat.hpp"
 #include "shell/values/indexing.hpp"
 #include "shell/values/operators.hpp"
@@ -9,6 +10,7 @@
 #include <cmath>
 
 using namespace orrery;
+using orrery::testing::row;
 using namespace orrery::shell::values;
 using shell::lang::Op;
 using value::ClassId;
@@ -16,11 +18,6 @@ using value::Dims;
 using value::ValueArray;
 
 namespace {
-
-ValueArray row(std::vector<double> values) {
-    const std::size_t n = values.size();
-    return ValueArray::doubles(Dims{1, n}, std::move(values));
-}
 
 IndexArg at(std::vector<double> positions) { return {false, row(std::move(positions))}; }
 

@@ -51,6 +51,12 @@ inline std::vector<value::ValueArrayPtr> callBuiltin(value::BuiltinFunction buil
 /// A char row from UTF-8 text ("" gives the 0-by-0 char array).
 inline value::ValueArray chars(std::string_view utf8) { return value::ValueArray::charsFromUtf8(utf8); }
 
+/// A 1-by-N double row.
+inline value::ValueArray row(std::vector<double> values) {
+    const std::size_t n = values.size();
+    return value::ValueArray::doubles(value::Dims{1, n}, std::move(values));
+}
+
 /// A 1-by-1 structure with the fields in order.
 inline value::ValueArray structOf(std::initializer_list<std::pair<std::string, value::ValueArray>> fields) {
     auto result = value::ValueArray::structArray(value::Dims{1, 1});

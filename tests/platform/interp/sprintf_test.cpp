@@ -1,4 +1,5 @@
 // Tests of fiSprintf: escapes, cycling over data, conversions, and bad input.
+#include "tests/support/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/interp/sprintf.hpp>
@@ -11,11 +12,8 @@
 
 using namespace orrery::value;
 using orrery::interp::fiSprintf;
+using orrery::testing::row;
 
-static ValueArray row(std::vector<double> values) {
-    const std::size_t n = values.size();
-    return ValueArray::doubles(Dims{1, n}, std::move(values));
-}
 static ValueArray num(double value) { return ValueArray::scalar(value); }
 static ValueArray chr(std::string_view utf8) { return ValueArray::charsFromUtf8(utf8); }
 
