@@ -103,9 +103,9 @@ StmtPtr Parser::parseStatement() {
             except::throwMessage(OutsideLoop(sourceName_, token.pos.line, token.pos.column,
                                              text::utf8ToUtf16(token.kind == Break ? "break" : "continue")));
         }
-        auto stmt = std::make_unique<Stmt>();
-        stmt->kind = token.kind == Break ? StmtKind::Break : token.kind == Continue ? StmtKind::Continue : StmtKind::Return;
-        stmt->pos = take().pos;
+        auto stmt = beginStatement(token.kind == Break      ? StmtKind::Break
+                                   : token.kind == Continue ? StmtKind::Continue
+                                                            : StmtKind::Return);
         endStatement(*stmt);
         return stmt;
     }
@@ -130,10 +130,24 @@ void Parser::endStatement(Stmt& stmt) {
     }
 }
 
-StmtPtr Parser::parseIf() {
+// A statement of the kind, positioned at its keyword, which it consumes.
+StmtPtr Parser::beginStatement(StmtKind kind) {
     auto stmt = std::make_unique<Stmt>();
-    stmt->kind = StmtKind::If;
+    stmt->kind = kind;
     stmt->pos = take().pos;
+    return stmt;
+}
+
+// The body of a for or while loop, where break and continue are allowed.
+Block Parser::parseLoopBody() {
+    ++loopDepth_;
+    Block body = parseBlock({End});
+    --loopDepth_;
+    return body;
+}
+
+StmtPtr Parser::parseIf() {
+    auto stmt = beginStatement(StmtKind::If);
     do {
         Clause clause;
         clause.test = parseExpr();
@@ -149,37 +163,27 @@ StmtPtr Parser::parseIf() {
 }
 
 StmtPtr Parser::parseFor() {
-    auto stmt = std::make_unique<Stmt>();
-    stmt->kind = StmtKind::For;
-    stmt->pos = take().pos;
+    auto stmt = beginStatement(StmtKind::For);
     const bool parenthesised = accept(LParen);
     stmt->name = expect(Identifier, "the name of the loop variable").text;
     expect(Assign, "'='");
     stmt->expr = parseExpr();
     if (parenthesised) expect(RParen, "')'");
-    ++loopDepth_;
-    stmt->body = parseBlock({End});
-    --loopDepth_;
+    stmt->body = parseLoopBody();
     expect(End, "'end' to close 'for'");
     return stmt;
 }
 
 StmtPtr Parser::parseWhile() {
-    auto stmt = std::make_unique<Stmt>();
-    stmt->kind = StmtKind::While;
-    stmt->pos = take().pos;
+    auto stmt = beginStatement(StmtKind::While);
     stmt->expr = parseExpr();
-    ++loopDepth_;
-    stmt->body = parseBlock({End});
-    --loopDepth_;
+    stmt->body = parseLoopBody();
     expect(End, "'end' to close 'while'");
     return stmt;
 }
 
 StmtPtr Parser::parseSwitch() {
-    auto stmt = std::make_unique<Stmt>();
-    stmt->kind = StmtKind::Switch;
-    stmt->pos = take().pos;
+    auto stmt = beginStatement(StmtKind::Switch);
     stmt->expr = parseExpr();
     while (at(Newline) || at(Semicolon) || at(Comma)) take();
     while (accept(Case)) {
@@ -197,9 +201,7 @@ StmtPtr Parser::parseSwitch() {
 }
 
 StmtPtr Parser::parseTry() {
-    auto stmt = std::make_unique<Stmt>();
-    stmt->kind = StmtKind::Try;
-    stmt->pos = take().pos;
+    auto stmt = beginStatement(StmtKind::Try);
     stmt->body = parseBlock({Catch, End});
     if (accept(Catch)) {
         stmt->hasOtherwise = true;

@@ -35,6 +35,8 @@ private:
     // statements (parser.cpp)
     Block parseBlock(std::initializer_list<TokenKind> terminators);
     StmtPtr parseStatement();
+    StmtPtr beginStatement(StmtKind kind);
+    Block parseLoopBody();
     StmtPtr parseIf();
     StmtPtr parseFor();
     StmtPtr parseWhile();
