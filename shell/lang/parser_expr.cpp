@@ -95,15 +95,19 @@ ExprPtr Parser::parseRange() {
     return finish(std::move(node));
 }
 
-ExprPtr Parser::parseUnary() {
+// Prefix operators (+, -, ~) before what `operand` parses; `self` parses what
+// follows each of them, so they chain.
+ExprPtr Parser::parsePrefixed(ExprPtr (Parser::*operand)(), ExprPtr (Parser::*self)()) {
     const TokenKind kind = peek().kind;
-    if (kind != Plus && kind != Minus && kind != Not) return parsePower();
+    if (kind != Plus && kind != Minus && kind != Not) return (this->*operand)();
     Nesting nesting(*this);
     auto node = makeNode(ExprKind::Unary, take().pos);
     node->op = kind == Plus ? Op::Plus : kind == Minus ? Op::Minus : Op::Not;
-    node->operands.push_back(parseUnary());
+    node->operands.push_back((this->*self)());
     return finish(std::move(node));
 }
+
+ExprPtr Parser::parseUnary() { return parsePrefixed(&Parser::parsePower, &Parser::parseUnary); }
 
 ExprPtr Parser::parsePower() {
     ExprPtr base = parsePostfix();
@@ -118,15 +122,7 @@ ExprPtr Parser::parsePower() {
 }
 
 // The exponent may carry its own sign: 2^-1.
-ExprPtr Parser::parsePowerOperand() {
-    const TokenKind kind = peek().kind;
-    if (kind != Plus && kind != Minus && kind != Not) return parsePostfix();
-    Nesting nesting(*this);
-    auto node = makeNode(ExprKind::Unary, take().pos);
-    node->op = kind == Plus ? Op::Plus : kind == Minus ? Op::Minus : Op::Not;
-    node->operands.push_back(parsePowerOperand());
-    return finish(std::move(node));
-}
+ExprPtr Parser::parsePowerOperand() { return parsePrefixed(&Parser::parsePostfix, &Parser::parsePowerOperand); }
 
 ExprPtr Parser::parsePostfix() {
     ExprPtr base = parsePrimary();

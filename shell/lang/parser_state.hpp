@@ -54,6 +54,7 @@ private:
     // expressions (parser_expr.cpp)
     ExprPtr parseBinaryLevel(int level);
     ExprPtr parseRange();
+    ExprPtr parsePrefixed(ExprPtr (Parser::*operand)(), ExprPtr (Parser::*self)());
     ExprPtr parseUnary();
     ExprPtr parsePower();
     ExprPtr parsePowerOperand();
