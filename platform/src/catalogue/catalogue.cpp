@@ -1,5 +1,6 @@
 // Message catalogue on an ICU resource bundle of nested tables, one level per
 // identifier component, formatted with ICU MessageFormat.
+#include <orrery/except/internal_error.hpp>
 #include <orrery/catalogue/catalogue.hpp>
 #include <orrery/catalogue/message_content.hpp>
 #include <orrery/except/throw_message.hpp>
@@ -39,7 +40,7 @@ const UResourceBundle& rootBundle() {
         root.reset(ures_openDirect(folder.c_str(), "root", &status));
         if (U_FAILURE(status)) root.reset();
     });
-    if (!root) throw std::logic_error("message catalogue not found in " + catalogueFolder());
+    if (!root) except::internalError("message catalogue", "not found in " + catalogueFolder());
     return *root;
 }
 
@@ -97,7 +98,7 @@ std::u16string formatMessage(std::string_view identifier, std::span<const Messag
     UErrorCode status = U_ZERO_ERROR;
     icu::MessageFormat format(icu::UnicodeString(pattern->data(), static_cast<int32_t>(pattern->size())),
                               icu::Locale::getDefault(), status);
-    if (U_FAILURE(status)) throw std::logic_error("malformed catalogue entry for " + std::string(identifier));
+    if (U_FAILURE(status)) except::internalError("message catalogue", "malformed entry for " + std::string(identifier));
     std::vector<icu::Formattable> values;
     values.reserve(arguments.size());
     for (const auto& argument : arguments) values.push_back(toFormattable(argument));

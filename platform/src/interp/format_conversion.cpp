@@ -1,4 +1,5 @@
 // One conversion of one element: numbers through snprintf, texts padded in UTF-16 units.
+#include <orrery/except/internal_error.hpp>
 #include "format_conversion.hpp"
 
 #include <orrery/text/text.hpp>
@@ -42,7 +43,7 @@ template <class T>
 std::u16string printC(const std::string& pattern, T value) {
     std::array<char, 128> small{};
     const int size = std::snprintf(small.data(), small.size(), pattern.c_str(), value);
-    if (size < 0) throw std::logic_error("sprintf: the C library rejected the conversion " + pattern);
+    if (size < 0) except::internalError("sprintf", "the C library rejected the conversion " + pattern);
     const auto length = static_cast<std::size_t>(size);
     if (length < small.size()) return text::asciiToUtf16(std::string_view(small.data(), length));
     std::string out(length, '\0');

@@ -1,4 +1,5 @@
 // Class descriptions: ordered properties and methods, lookup and instances.
+#include <orrery/except/internal_error.hpp>
 #include <orrery/ocos/class_info.hpp>
 #include <orrery/ocos/method_info.hpp>
 
@@ -15,20 +16,20 @@ COSClassInfo::~COSClassInfo() = default;
 void COSClassInfo::addProperty(COSPropInfo property) {
     validateType(property.getType(), fullName_);
     if (findProperty(property.getName().view()) != nullptr) {
-        throw std::logic_error("class system: " + fullName_ + " declares property \"" + property.getName().str() +
+        except::internalError("class system", "" + fullName_ + " declares property \"" + property.getName().str() +
                                "\" twice");
     }
     properties_.push_back(std::move(property));
 }
 
 void COSClassInfo::addMethod(std::shared_ptr<const COSMethodInfo> method) {
-    if (!method) throw std::logic_error("class system: " + fullName_ + " given a null method");
+    if (!method) except::internalError("class system", "" + fullName_ + " given a null method");
     for (const COSType& type : method->getSignature().inputs()) validateType(type, fullName_);
     for (const COSType& type : method->getSignature().outputs()) validateType(type, fullName_);
     const bool repeated = std::any_of(methods_.begin(), methods_.end(),
                                       [&](const auto& known) { return known->getName() == method->getName(); });
     if (repeated) {
-        throw std::logic_error("class system: " + fullName_ + " declares method \"" + method->getName() + "\" twice");
+        except::internalError("class system", "" + fullName_ + " declares method \"" + method->getName() + "\" twice");
     }
     methods_.push_back(std::move(method));
 }
@@ -60,9 +61,9 @@ std::vector<std::string> COSClassInfo::getMethodNames() const {
 }
 
 std::shared_ptr<COSObject> COSClassInfo::newInstance() const {
-    if (!factory_) throw std::logic_error("class system: " + fullName_ + " has no instance factory");
+    if (!factory_) except::internalError("class system", "" + fullName_ + " has no instance factory");
     std::shared_ptr<COSObject> instance = factory_();
-    if (!instance) throw std::logic_error("class system: the factory of " + fullName_ + " made no instance");
+    if (!instance) except::internalError("class system", "the factory of " + fullName_ + " made no instance");
     return instance;
 }
 

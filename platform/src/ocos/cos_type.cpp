@@ -1,4 +1,5 @@
 // Parsing of type texts and conversion of values to declared types.
+#include <orrery/except/internal_error.hpp>
 #include <orrery/ocos/cos_type.hpp>
 #include <orrery/ocos/registry.hpp>
 #include <orrery/text/text.hpp>
@@ -42,11 +43,11 @@ COSTypeKind parseKind(std::string_view text) {
     // A case variant of a built-in text is a typo, not a class of that name.
     for (const auto& [name, kind] : builtinTypes) {
         if (text::equalsIgnoreCaseAscii(name, text)) {
-            throw std::logic_error("class system: type text \"" + std::string(text) + "\" is misspelt");
+            except::internalError("class system", "type text \"" + std::string(text) + "\" is misspelt");
         }
     }
     if (!isValidDottedName(text) || isValueClassName(text)) {
-        throw std::logic_error("class system: unknown type text \"" + std::string(text) + "\"");
+        except::internalError("class system", "unknown type text \"" + std::string(text) + "\"");
     }
     return COSTypeKind::Class;
 }
@@ -109,7 +110,7 @@ bool COSType::accepts(const ValueArray& value) const { return convert(value).has
 void validateType(const COSType& type, std::string_view describingClass) {
     if (!type.isClass() || type.text() == describingClass) return;
     if (!findClass(type.text().view())) {
-        throw std::logic_error("class system: type \"" + type.text().str() + "\" names no registered class");
+        except::internalError("class system", "type \"" + type.text().str() + "\" names no registered class");
     }
 }
 

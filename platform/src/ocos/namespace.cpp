@@ -1,5 +1,6 @@
 // Namespaces: nested scopes of classes and functions, and the root that holds
 // the host's own classes.
+#include <orrery/except/internal_error.hpp>
 #include <orrery/ocos/class_info.hpp>
 #include <orrery/ocos/message_object.hpp>
 #include <orrery/ocos/method_info.hpp>
@@ -14,7 +15,7 @@ namespace {
 
 void checkSimpleName(std::string_view name) {
     if (!isValidDottedName(name) || name.find('.') != std::string_view::npos) {
-        throw std::logic_error("class system: bad name \"" + std::string(name) + "\" in a namespace");
+        except::internalError("class system", "bad name \"" + std::string(name) + "\" in a namespace");
     }
 }
 
@@ -40,7 +41,7 @@ COSNamespace* COSNamespace::getInnerNamespace(std::string_view name, bool create
 void COSNamespace::registerClass(std::string_view name, std::shared_ptr<const COSClassInfo> classInfo) {
     checkSimpleName(name);
     if (!classInfo || classInfo->getName() != joinPath(path_, name)) {
-        throw std::logic_error("class system: class registered as \"" + joinPath(path_, name) + "\" has another name");
+        except::internalError("class system", "class registered as \"" + joinPath(path_, name) + "\" has another name");
     }
     const auto found =
         std::find_if(classes_.begin(), classes_.end(), [name](const auto& entry) { return entry.first == name; });
@@ -52,7 +53,7 @@ void COSNamespace::registerClass(std::string_view name, std::shared_ptr<const CO
 }
 
 void COSNamespace::addFunction(std::shared_ptr<const COSMethodInfo> function) {
-    if (!function) throw std::logic_error("class system: null function added to \"" + path_ + "\"");
+    if (!function) except::internalError("class system", "null function added to \"" + path_ + "\"");
     checkSimpleName(function->getName());
     for (const COSType& type : function->getSignature().inputs()) validateType(type, {});
     for (const COSType& type : function->getSignature().outputs()) validateType(type, {});

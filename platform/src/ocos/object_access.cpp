@@ -1,4 +1,5 @@
 // Property reads and copy-on-write property writes on object arrays.
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/object_access.hpp>
 #include <orrery/ocos/ocos_messages.hpp>
@@ -12,7 +13,7 @@ namespace {
 
 const COSClassInfo& classOf(const value::ValueArray& objects) {
     const auto& info = objects.classInfo();
-    if (!info) throw std::logic_error("class system: object array without a class");
+    if (!info) except::internalError("class system", "object array without a class");
     return *info;
 }
 
@@ -57,7 +58,7 @@ void setProperty(value::ValueArray& objects, std::size_t index, std::string_view
 }
 
 value::ValueArray newObjectArray(std::shared_ptr<const COSClassInfo> classInfo, value::Dims dims) {
-    if (!classInfo) throw std::logic_error("class system: object array without a class");
+    if (!classInfo) except::internalError("class system", "object array without a class");
     const COSClassInfo& info = *classInfo;
     value::ValueArray objects = value::ValueArray::objectArray(std::move(classInfo), std::move(dims));
     for (std::size_t i = 0; i < objects.numel(); ++i) objects.setObjectAt(i, info.newInstance());

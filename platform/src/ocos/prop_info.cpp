@@ -1,4 +1,5 @@
 // Property descriptions: typed reads and checked writes.
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/ocos_messages.hpp>
 #include <orrery/ocos/prop_info.hpp>
@@ -13,7 +14,7 @@ namespace {
 
 COSName checkedName(std::string_view name) {
     if (!isValidDottedName(name) || name.find('.') != std::string_view::npos) {
-        throw std::logic_error("class system: bad property name \"" + std::string(name) + "\"");
+        except::internalError("class system", "bad property name \"" + std::string(name) + "\"");
     }
     return intern(name);
 }
@@ -22,7 +23,7 @@ COSName checkedName(std::string_view name) {
 
 COSPropInfo::COSPropInfo(std::string_view name, std::string_view typeText, Getter getter, Setter setter)
     : name_(checkedName(name)), type_(typeText), getter_(std::move(getter)), setter_(std::move(setter)) {
-    if (!getter_) throw std::logic_error("class system: property \"" + name_.str() + "\" has no getter");
+    if (!getter_) except::internalError("class system", "property \"" + name_.str() + "\" has no getter");
 }
 
 value::ValueArray COSPropInfo::read(const COSObject& instance) const { return getter_(instance); }
@@ -39,7 +40,7 @@ PropertyValue COSPropInfo::accept(const value::ValueArray& value, std::string_vi
 }
 
 void COSPropInfo::assign(COSObject& instance, PropertyValue converted) const {
-    if (!setter_) throw std::logic_error("class system: assign to read-only property \"" + name_.str() + "\"");
+    if (!setter_) except::internalError("class system", "assign to read-only property \"" + name_.str() + "\"");
     setter_(instance, std::move(converted));
 }
 

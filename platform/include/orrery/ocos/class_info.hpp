@@ -45,10 +45,10 @@ public:
     // ---- description --------------------------------------------------------
     /// Adds a property after the others. Its type must be a built-in type, this
     /// class or a registered class; that and a repeated name are faults of the
-    /// description: std::logic_error.
+    /// description: an internal error (except::InternalError).
     void addProperty(COSPropInfo property);
     /// Adds a method after the others; its signature is validated like property
-    /// types, and a repeated name is a std::logic_error.
+    /// types, and a repeated name is an internal error (except::InternalError).
     void addMethod(std::shared_ptr<const COSMethodInfo> method);
     /// Sets how newInstance makes an instance.
     void setInstanceFactory(InstanceFactory factory) { factory_ = std::move(factory); }
@@ -65,7 +65,7 @@ public:
     /// Method names in the order of declaration.
     std::vector<std::string> getMethodNames() const;
 
-    /// A new instance from the factory; a class without one is a std::logic_error.
+    /// A new instance from the factory; a class without one is an internal error (except::InternalError).
     std::shared_ptr<COSObject> newInstance() const;
 
 private:

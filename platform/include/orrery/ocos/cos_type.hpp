@@ -36,7 +36,7 @@ class ORRERY_API COSType {
 public:
     /// Parses a type text: one of the built-in texts, or a dotted class name
     /// ("pkg.Thing", "message"). Anything else is a fault of the class's
-    /// description: std::logic_error.
+    /// description: an internal error (except::InternalError).
     explicit COSType(std::string_view text);
 
     COSName text() const noexcept { return text_; }
@@ -62,7 +62,7 @@ private:
 
 /// Checks that a class-name type names a known class: the class being described
 /// (describingClass) or one registered with the class system. Built-in types
-/// always pass. An unknown class is a fault of the description: std::logic_error.
+/// always pass. An unknown class is a fault of the description: an internal error (except::InternalError).
 ORRERY_API void validateType(const COSType& type, std::string_view describingClass);
 
 /// True for a dotted name whose components start with a letter and continue

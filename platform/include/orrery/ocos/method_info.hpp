@@ -19,7 +19,7 @@ namespace orrery::ocos {
 class ORRERY_API COSMethodSignature {
 public:
     COSMethodSignature() = default;
-    /// Type texts as COSType accepts them; a bad text raises std::logic_error.
+    /// Type texts as COSType accepts them; a bad text raises an internal error (except::InternalError).
     COSMethodSignature(std::initializer_list<std::string_view> inputs, std::initializer_list<std::string_view> outputs);
 
     void addInput(COSName type) { inputs_.emplace_back(type.view()); }

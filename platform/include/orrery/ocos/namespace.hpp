@@ -35,17 +35,17 @@ public:
 
     /// The inner namespace of that name; when absent it is made if create is
     /// true, else the answer is null. A name that is not a plain identifier is a
-    /// std::logic_error.
+    /// an internal error (except::InternalError).
     COSNamespace* getInnerNamespace(std::string_view name, bool create = true);
 
     /// Registers a class under its simple name; the class's full name must be this
-    /// namespace's path plus that name (std::logic_error otherwise). A class of
+    /// namespace's path plus that name (otherwise an internal error, except::InternalError). A class of
     /// the same name is replaced, so that a host keeping one registry per
     /// interpreter instance can register again.
     void registerClass(std::string_view name, std::shared_ptr<const COSClassInfo> classInfo);
 
     /// Adds a function under its method name. Its signature types must be built-in
-    /// types or registered classes (std::logic_error otherwise). A function of the
+    /// types or registered classes (otherwise an internal error, except::InternalError). A function of the
     /// same name is replaced.
     void addFunction(std::shared_ptr<const COSMethodInfo> function);
 

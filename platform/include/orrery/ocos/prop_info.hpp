@@ -26,7 +26,7 @@ public:
 
     /// name: a plain identifier; typeText: as COSType accepts it. A bad name, a
     /// bad type text or a missing getter is a fault of the description:
-    /// std::logic_error. An empty setter makes the property read-only.
+    /// an internal error (except::InternalError). An empty setter makes the property read-only.
     COSPropInfo(std::string_view name, std::string_view typeText, Getter getter, Setter setter = {});
 
     COSName getName() const noexcept { return name_; }

@@ -2,6 +2,7 @@
 // the class's own instance type.
 #pragma once
 
+#include <orrery/except/internal_error.hpp>
 #include <orrery/ocos/class_info.hpp>
 #include <orrery/ocos/prop_info.hpp>
 
@@ -49,19 +50,19 @@ struct PropertyValueTraits<value::ValueArray> {
 };
 
 /// The instance as the class's own type; any other type is a fault of the
-/// class system's caller: std::logic_error.
+/// class system's caller: an internal error (except::InternalError).
 template <class Instance>
 Instance& instanceAs(COSObject& instance) {
     auto* typed = dynamic_cast<Instance*>(&instance);
     if (typed == nullptr)
-        throw std::logic_error(std::string("class system: instance is not a ") + typeid(Instance).name());
+        except::internalError("class system", std::string("instance is not a ") + typeid(Instance).name());
     return *typed;
 }
 template <class Instance>
 const Instance& instanceAs(const COSObject& instance) {
     const auto* typed = dynamic_cast<const Instance*>(&instance);
     if (typed == nullptr)
-        throw std::logic_error(std::string("class system: instance is not a ") + typeid(Instance).name());
+        except::internalError("class system", std::string("instance is not a ") + typeid(Instance).name());
     return *typed;
 }
 
@@ -73,7 +74,7 @@ using PropertyValueOf = std::remove_cvref_t<std::invoke_result_t<Get&, const Ins
 template <class Value>
 void checkFits(std::string_view name, std::string_view typeText) {
     if (!PropertyValueTraits<Value>::fits(COSType(typeText).kind())) {
-        throw std::logic_error("class system: property \"" + std::string(name) + "\" of type \"" +
+        except::internalError("class system", "property \"" + std::string(name) + "\" of type \"" +
                                std::string(typeText) + "\" has accessors of another value type");
     }
 }
@@ -93,7 +94,7 @@ COSPropInfo::Getter makeGetter(Get get) {
 /// ("double scalar"), bool ("logical scalar") or ValueArray (the other types);
 /// set is called with an Instance& and a value of the same type. Member function
 /// pointers work for both. A type text that does not fit the value type is a
-/// fault of the description: std::logic_error.
+/// fault of the description: an internal error (except::InternalError).
 template <class Instance, class Get, class Set>
 COSPropInfo makeProperty(std::string_view name, std::string_view typeText, Get get, Set set) {
     using Value = detail::PropertyValueOf<Instance, Get>;
