@@ -23,13 +23,13 @@ TEST(COSClassInfo, RefusesFaultyDescriptions) {
     };
     COSClassInfo info("test.ocos.Faulty");
     info.addProperty(property("x", "double"));
-    EXPECT_THROW(info.addProperty(property("x", "double")), except::InternalError);
+    EXPECT_THROW(info.addProperty(property("x", "double")), orrery::except::InternalError);
     // A class type must be this class or a registered one.
     EXPECT_NO_THROW(info.addProperty(property("self", "test.ocos.Faulty")));
-    EXPECT_THROW(info.addProperty(property("ghost", "test.ocos.NotRegistered")), except::InternalError);
-    EXPECT_THROW(info.addMethod(lambdaMethod("m", {{"test.ocos.NotRegistered"}, {}})), except::InternalError);
+    EXPECT_THROW(info.addProperty(property("ghost", "test.ocos.NotRegistered")), orrery::except::InternalError);
+    EXPECT_THROW(info.addMethod(lambdaMethod("m", {{"test.ocos.NotRegistered"}, {}})), orrery::except::InternalError);
     info.addMethod(lambdaMethod("m", {{"test.ocos.Faulty"}, {"double"}}));
-    EXPECT_THROW(info.addMethod(lambdaMethod("m", {})), except::InternalError);
-    EXPECT_THROW(info.newInstance(), except::InternalError);
+    EXPECT_THROW(info.addMethod(lambdaMethod("m", {})), orrery::except::InternalError);
+    EXPECT_THROW(info.newInstance(), orrery::except::InternalError);
     EXPECT_EQ(info.getPropertyNames(), (std::vector<std::string>{"x", "self"}));
 }

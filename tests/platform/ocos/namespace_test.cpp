@@ -13,7 +13,7 @@ TEST(COSNamespace, InnerNamespacesAreMadeOnRequestOnly) {
     EXPECT_EQ(top.getInnerNamespace("made", false), made);
     EXPECT_EQ(findNamespace("nstest.made"), made);
     EXPECT_EQ(findNamespace("nstest.absent"), nullptr);
-    EXPECT_THROW(top.getInnerNamespace("a.b"), except::InternalError);
+    EXPECT_THROW(top.getInnerNamespace("a.b"), orrery::except::InternalError);
 }
 
 TEST(COSNamespace, FindsClassesByFullPath) {
@@ -28,7 +28,7 @@ TEST(COSNamespace, FindsClassesByFullPath) {
     EXPECT_MSGID_TEXT(getClass("orrery.internal.demo.Gone"), "ORRERY:ocos:noSuchClass",
                       "There is no class named 'orrery.internal.demo.Gone'.");
     // Registration checks the full name, and a second registration replaces the first.
-    EXPECT_THROW(demo->registerClass("Other", thing), except::InternalError);
+    EXPECT_THROW(demo->registerClass("Other", thing), orrery::except::InternalError);
     const auto again = std::make_shared<COSClassInfo>("orrery.internal.demo.Thing");
     demo->registerClass("Thing", again);
     EXPECT_EQ(getClass("orrery.internal.demo.Thing"), again);
@@ -55,6 +55,6 @@ TEST(COSNamespace, FunctionsKeepTheirOrderAndAreCalledByPath) {
     EXPECT_EQ(findFunction("nstest.tool.log"), nullptr);
     EXPECT_MSGID_TEXT(getFunction("nstest.tool.log.flush"), "ORRERY:ocos:noSuchFunction",
                       "There is no function named 'nstest.tool.log.flush'.");
-    EXPECT_THROW(log->addFunction(lambdaMethod("bad", {{"nstest.NoClass"}, {}})), except::InternalError);
+    EXPECT_THROW(log->addFunction(lambdaMethod("bad", {{"nstest.NoClass"}, {}})), orrery::except::InternalError);
     EXPECT_EQ(findFunction("nstest.tool.log.bad"), nullptr);
 }

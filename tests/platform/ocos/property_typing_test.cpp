@@ -57,11 +57,11 @@ TEST(PropertyTyping, BadDescriptionsAreInternalFaults) {
     const auto get = [](const Gadget& g) { return g.weight; };
     const auto set = [](Gadget& g, double w) { g.weight = w; };
     for (const char* type : {"string", "Double scalar", "asciistring", "double  scalar", "", "a..b", "1pkg.C"}) {
-        EXPECT_THROW(COSPropInfo("p", type, [](const COSObject&) { return ValueArray(); }), except::InternalError) << type;
+        EXPECT_THROW(COSPropInfo("p", type, [](const COSObject&) { return ValueArray(); }), orrery::except::InternalError) << type;
     }
     // Accessors of one value type cannot serve a property of another.
-    EXPECT_THROW(makeProperty<Gadget>("w", "double", get, set), except::InternalError);
-    EXPECT_THROW(makeProperty<Gadget>("w", "logical scalar", get, set), except::InternalError);
-    EXPECT_THROW(makeProperty<Gadget>("bad name", "double scalar", get, set), except::InternalError);
-    EXPECT_THROW(COSPropInfo("p", "double", nullptr), except::InternalError);
+    EXPECT_THROW(makeProperty<Gadget>("w", "double", get, set), orrery::except::InternalError);
+    EXPECT_THROW(makeProperty<Gadget>("w", "logical scalar", get, set), orrery::except::InternalError);
+    EXPECT_THROW(makeProperty<Gadget>("bad name", "double scalar", get, set), orrery::except::InternalError);
+    EXPECT_THROW(COSPropInfo("p", "double", nullptr), orrery::except::InternalError);
 }
