@@ -2,13 +2,11 @@
 // with the diagnostic module loaded.
 #include "shell/builtins/host_builtins.hpp"
 #include "shell/eval/interpreter.hpp"
-#include "shell/eval/user_error.hpp"
 #include "shell/prompt/prompt.hpp"
 #include "shell/startup/command_line.hpp"
 #include "shell/startup/module_loader.hpp"
 #include "shell/startup/session.hpp"
 
-#include <orrery/except/msg_id_exception.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <cstdio>
@@ -27,19 +25,21 @@ value::ValueArray argumentCell(const std::vector<std::string>& args) {
 }
 
 int run(const Options& options) {
-    const shell::startup::DiagnosticModule module(shell::startup::locateModule());
+    std::optional<shell::startup::DiagnosticModule> module;
+    const auto loaded = shell::startup::runAtTopLevel([&] { module.emplace(shell::startup::locateModule()); });
+    if (loaded != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(loaded);
     shell::registerHostBuiltins();
     shell::eval::Interpreter interpreter(std::cout);
     shell::setVariableQuery([&interpreter](std::string_view name) { return interpreter.isVariable(name); });
     interpreter.baseWorkspace().set("argv", argumentCell(options.scriptArgs));
-    bool succeeded = true;
+    auto outcome = shell::startup::RunOutcome::Completed;
     switch (options.mode) {
-    case Options::Mode::Script: succeeded = shell::startup::runScriptFile(interpreter, options.script); break;
-    case Options::Mode::Text: succeeded = shell::startup::runSource(interpreter, options.text, u"<command>", u""); break;
+    case Options::Mode::Script: outcome = shell::startup::runScriptFile(interpreter, options.script); break;
+    case Options::Mode::Text: outcome = shell::startup::runSource(interpreter, options.text, u"<command>", u""); break;
     default: shell::prompt::runPrompt(interpreter); break;
     }
     shell::setVariableQuery({});
-    return succeeded ? 0 : 1;
+    return shell::startup::exitStatus(outcome);
 }
 
 }  // namespace
@@ -48,24 +48,17 @@ int main(int argc, char** argv) {
     // Whole lines reach the terminal or pipe in the order they were written,
     // whichever of standard output and standard error they go to.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-    try {
-        const Options options = shell::startup::parseCommandLine({argv + 1, argv + argc});
-        if (options.mode == Options::Mode::Help) {
-            std::cout << shell::startup::usageText();
-            return 0;
-        }
-        if (options.mode == Options::Mode::Version) {
-            std::cout << shell::startup::versionText();
-            return 0;
-        }
-        return run(options);
-    } catch (const except::QException& error) {
-        shell::startup::reportError(error);
-    } catch (const except::IMsgIDException& failure) {
-        shell::startup::reportError(shell::eval::userErrorFrom(failure));
-    } catch (const std::exception& failure) {
-        std::cout.flush();
-        std::cerr << "Internal error: " << failure.what() << "\n";
+    Options options;
+    const auto parsed =
+        shell::startup::runAtTopLevel([&] { options = shell::startup::parseCommandLine({argv + 1, argv + argc}); });
+    if (parsed != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(parsed);
+    if (options.mode == Options::Mode::Help) {
+        std::cout << shell::startup::usageText();
+        return 0;
     }
-    return 1;
+    if (options.mode == Options::Mode::Version) {
+        std::cout << shell::startup::versionText();
+        return 0;
+    }
+    return run(options);
 }

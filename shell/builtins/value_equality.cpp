@@ -1,10 +1,13 @@
 // The language's isequal over every class of value.
 #include "shell/builtins/value_equality.hpp"
 
-#include <orrery/interp/function_table.hpp>
+#include <orrery/ocos/class_info.hpp>
+#include <orrery/ocos/dispatch.hpp>
+#include <orrery/ocos/object_access.hpp>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +17,7 @@ namespace {
 using value::ClassId;
 using value::ValueArray;
 
-bool equalAt(const ValueArray& a, const ValueArray& b, bool nested);
+bool equalAt(const ValueArray& a, const ValueArray& b);
 
 bool isNumberLike(const ValueArray& v) {
     return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char);
@@ -44,7 +47,7 @@ bool charEqualsString(const ValueArray& chars, const ValueArray& string) {
 
 bool cellsEqual(const ValueArray& a, const ValueArray& b) {
     for (std::size_t i = 0; i < a.numel(); ++i)
-        if (!equalAt(a.cellAt(i), b.cellAt(i), true)) return false;
+        if (!equalAt(a.cellAt(i), b.cellAt(i))) return false;
     return true;
 }
 
@@ -59,33 +62,46 @@ bool structsEqual(const ValueArray& a, const ValueArray& b) {
         for (const auto& name : namesA) {
             const ValueArray* x = a.field(i, name);
             const ValueArray* y = b.field(i, name);
-            if (!equalAt(x ? *x : empty, y ? *y : empty, true)) return false;
+            if (!equalAt(x ? *x : empty, y ? *y : empty)) return false;
         }
     }
     return true;
 }
 
-bool objectsEqual(const ValueArray& a, const ValueArray& b) {
-    if (!a.is(ClassId::Object) || !b.is(ClassId::Object)) return false;
-    if (a.className() != b.className() || a.dims() != b.dims()) return false;
-    for (std::size_t i = 0; i < a.numel(); ++i)
-        if (a.objectAt(i) != b.objectAt(i)) return false;
-    return true;
-}
-
-// Offers nested objects to the language function, so a class's isequal decides.
-bool objectsEqualThroughFunction(const ValueArray& a, const ValueArray& b) {
+// A class's own isequal decides for its objects, through the one dispatch path.
+std::optional<bool> equalByClassMethod(const ValueArray& a, const ValueArray& b) {
     const std::array<const ValueArray*, 2> inputs{&a, &b};
     value::ValueArrayPtr answer;
-    interp::callFunction("isequal", 1, &answer, 2, inputs.data());
+    if (!ocos::callMethodIfDefined("isequal", 1, &answer, 2, inputs.data())) return std::nullopt;
     return answer && answer->isScalar() && answer->toLogicalScalar().logicalAt(0);
 }
 
-bool equalAt(const ValueArray& a, const ValueArray& b, bool nested) {
-    if (a.is(ClassId::Object) || b.is(ClassId::Object)) {
-        const bool sameClass = a.classId() == b.classId() && a.className() == b.className();
-        return nested && sameClass ? objectsEqualThroughFunction(a, b) : objectsEqual(a, b);
+// Elements of one class are equal when both hold no instance, share one, or
+// hold instances whose properties have equal values.
+bool elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i) {
+    const auto x = a.objectAt(i);
+    const auto y = b.objectAt(i);
+    if (x == y) return true;
+    if (!x || !y) return false;
+    for (const auto& property : a.classInfo()->getProperties()) {
+        const std::string_view name = property.getName().view();
+        if (!equalAt(ocos::getProperty(a, i, name), ocos::getProperty(b, i, name))) return false;
     }
+    return true;
+}
+
+// Objects are compared by value: same class, same size, and equal elements.
+bool objectsEqual(const ValueArray& a, const ValueArray& b) {
+    if (!a.is(ClassId::Object) || !b.is(ClassId::Object)) return false;
+    if (a.className() != b.className() || a.dims() != b.dims()) return false;
+    if (const auto decided = equalByClassMethod(a, b)) return *decided;
+    for (std::size_t i = 0; i < a.numel(); ++i)
+        if (!elementsEqual(a, b, i)) return false;
+    return true;
+}
+
+bool equalAt(const ValueArray& a, const ValueArray& b) {
+    if (a.is(ClassId::Object) || b.is(ClassId::Object)) return objectsEqual(a, b);
     if (a.is(ClassId::Char) && b.is(ClassId::String)) return charEqualsString(a, b);
     if (a.is(ClassId::String) && b.is(ClassId::Char)) return charEqualsString(b, a);
     if (a.dims() != b.dims()) return false;
@@ -101,6 +117,6 @@ bool equalAt(const ValueArray& a, const ValueArray& b, bool nested) {
 
 }  // namespace
 
-bool valuesEqual(const ValueArray& a, const ValueArray& b) { return equalAt(a, b, false); }
+bool valuesEqual(const ValueArray& a, const ValueArray& b) { return equalAt(a, b); }
 
 }  // namespace orrery::shell::builtins

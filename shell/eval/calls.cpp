@@ -1,6 +1,7 @@
 // Calls by name: script functions (each in its own workspace and call-stack
-// frame), the function table, the services layer's built-ins and namespace
-// functions of the class system, all with the built-in signature.
+// frame), the function table (host and module built-ins, class methods through
+// the class system's dispatch) and namespace functions of the class system,
+// all with the built-in signature.
 #include "shell/eval/interpreter.hpp"
 
 #include "shell/eval/eval_messages.hpp"
@@ -8,11 +9,11 @@
 
 #include <orrery/except/argument_errors.hpp>
 #include <orrery/except/host_messages.hpp>
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
 #include <orrery/interp/function_table.hpp>
 #include <orrery/ocos/dispatch.hpp>
-#include <orrery/services/services.hpp>
 #include <orrery/text/text.hpp>
 
 #include <algorithm>
@@ -40,8 +41,8 @@ std::vector<ValueArray> invoke(const std::string& name, const std::vector<ValueA
     const auto inputs = pointersTo(args);
     try {
         function(nargout, slots.data(), static_cast<std::int32_t>(inputs.size()), inputs.data());
-    } catch (const except::IMsgIDException& failure) {
-        throw userErrorFrom(failure, name);
+    } catch (...) {
+        rethrowAsUserError(name);  // the built-in boundary
     }
     std::vector<ValueArray> results;
     for (std::size_t i = 0; i < slots.size() && slots[i]; ++i) results.push_back(std::move(*slots[i]));
@@ -69,16 +70,16 @@ private:
 [[noreturn]] void raiseArgumentError(const std::string& function, void (*raise)()) {
     try {
         raise();
-    } catch (const except::IMsgIDException& failure) {
-        throw userErrorFrom(failure, function);
+    } catch (...) {
+        rethrowAsUserError(function);
     }
-    throw std::logic_error("argument error not raised");
+    except::internalError("shell", "an argument error was not raised");
 }
 
 }  // namespace
 
 bool Interpreter::isCallable(const std::string& name, const Values& args) const {
-    if (functions_.contains(name) || interp::isFunction(name) || services::svLookupBuiltin(name) != nullptr) return true;
+    if (functions_.contains(name) || interp::isFunction(name)) return true;
     const auto inputs = pointersTo(args);
     return ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
 }
@@ -90,9 +91,6 @@ Interpreter::Values Interpreter::callFunction(const std::string& name, const Val
         if (const auto found = functions_.find(name); found != functions_.end()) return callUser(found->second, args, nargout);
     }
     if (method || interp::isFunction(name)) return callBuiltin(name, args, nargout);
-    if (const value::BuiltinFunction builtin = services::svLookupBuiltin(name)) {
-        return invoke(name, args, nargout, builtin);
-    }
     except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));
 }
 
@@ -126,11 +124,7 @@ Interpreter::Values Interpreter::callUser(const UserFunction& function, const Va
         const Restore<Workspace*> workspace(current_, &local);
         const Restore<std::size_t> depth(callDepth_, callDepth_ + 1);
         const interp::FrameGuard frame({function.file, text::utf8ToUtf16(def.name), def.pos.line});
-        try {
-            execBlock(def.body);
-        } catch (const except::IMsgIDException& failure) {
-            throw userErrorFrom(failure);  // while this call's frame is on the stack
-        }
+        execBlock(def.body);
     }
 
     Values results;

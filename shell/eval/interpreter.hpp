@@ -22,7 +22,8 @@ inline constexpr std::size_t kMaxCallDepth = 128;
 
 /// Runs programs. Errors leave run() as orrery::except::QException (language
 /// errors and catalogued failures are turned into one, with the call stack of
-/// the moment they happened); the caller reports them.
+/// the moment they happened); the caller reports them. Internal faults
+/// (except::InternalError and other exceptions) pass through unchanged.
 class Interpreter {
 public:
     /// Results of statements without a semicolon are displayed on `out`.
@@ -63,6 +64,7 @@ private:
     // statements (statements.cpp)
     Flow execBlock(const lang::Block& block);
     Flow exec(const lang::Stmt& stmt);
+    Flow execKind(const lang::Stmt& stmt);
     Flow execIf(const lang::Stmt& stmt);
     Flow execFor(const lang::Stmt& stmt);
     Flow execWhile(const lang::Stmt& stmt);

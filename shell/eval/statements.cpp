@@ -30,13 +30,7 @@ void Interpreter::run(const lang::Program& program, const std::u16string& file, 
     for (const auto& [name, def] : program.functions) functions_.insert_or_assign(name, UserFunction{def, file});
     std::optional<interp::FrameGuard> frame;
     if (!frameName.empty()) frame.emplace(interp::StackEntry{file, frameName, 0});
-    try {
-        execBlock(program.statements);
-    } catch (const except::IMsgIDException& failure) {
-        throw userErrorFrom(failure);  // while the script's frame is still on the stack
-    } catch (const std::bad_alloc&) {
-        throw outOfMemoryError();
-    }
+    execBlock(program.statements);
 }
 
 Interpreter::Flow Interpreter::execBlock(const lang::Block& block) {
@@ -47,9 +41,19 @@ Interpreter::Flow Interpreter::execBlock(const lang::Block& block) {
     return Flow::Normal;
 }
 
+// The statement boundary: what fails inside a statement becomes the language's
+// error here, while the frames of the calls it was in are still on the stack.
 Interpreter::Flow Interpreter::exec(const lang::Stmt& stmt) {
-    StackBudget::check();
-    interp::setCurrentLine(stmt.pos.line);
+    try {
+        StackBudget::check();
+        interp::setCurrentLine(stmt.pos.line);
+        return execKind(stmt);
+    } catch (...) {
+        rethrowAsUserError();
+    }
+}
+
+Interpreter::Flow Interpreter::execKind(const lang::Stmt& stmt) {
     switch (stmt.kind) {
     case StmtKind::Expression: execExpression(stmt); break;
     case StmtKind::Assign: execAssign(stmt); break;
@@ -124,15 +128,13 @@ Interpreter::Flow Interpreter::execSwitch(const lang::Stmt& stmt) {
 }
 
 Interpreter::Flow Interpreter::execTry(const lang::Stmt& stmt) {
+    // Statements have turned every failure into the language's error by now;
+    // internal faults pass on to the top level.
     std::optional<except::QException> caught;
     try {
         return execBlock(stmt.body);
     } catch (const except::QException& error) {
         caught = error;
-    } catch (const except::IMsgIDException& failure) {
-        caught = userErrorFrom(failure);
-    } catch (const std::bad_alloc&) {
-        caught = outOfMemoryError();
     }
     recordLastError(*caught);
     if (!stmt.name.empty()) current_->set(stmt.name, makeExceptionObject(*caught));

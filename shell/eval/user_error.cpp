@@ -4,17 +4,25 @@
 #include "shell/display/number_format.hpp"
 #include "shell/eval/eval_messages.hpp"
 
+#include <orrery/except/msg_id_exception.hpp>
 #include <orrery/interp/call_stack.hpp>
+
+#include <new>
 
 namespace orrery::shell::eval {
 
-except::QException userErrorFrom(const except::IMsgIDException& failure, std::string functionName) {
-    return except::QException(failure.identifier(), failure.message(), interp::currentStack(0), std::move(functionName));
-}
-
-except::QException outOfMemoryError() {
-    const OutOfMemory key;
-    return except::QException(key.identifier(), key.text(), interp::currentStack(0), "");
+void rethrowAsUserError(std::string functionName) {
+    try {
+        throw;
+    } catch (const except::QException&) {
+        throw;
+    } catch (const except::IMsgIDException& failure) {
+        throw except::QException(failure.identifier(), failure.message(), interp::currentStack(0),
+                                 std::move(functionName));
+    } catch (const std::bad_alloc&) {
+        const OutOfMemory key;
+        throw except::QException(key.identifier(), key.text(), interp::currentStack(0), "");
+    }
 }
 
 void recordLastError(const except::QException& error) {

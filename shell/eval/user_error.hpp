@@ -1,21 +1,22 @@
-// Errors as the language sees them: every failure becomes a QException with
-// identifier, message, call stack and reporting function; caught and uncaught
-// errors are recorded as the last error.
+// Errors as the language sees them: every failure that reaches the language
+// becomes a QException with identifier, message, call stack and reporting
+// function; caught and uncaught errors are recorded as the last error.
 #pragma once
 
-#include <orrery/except/msg_id_exception.hpp>
 #include <orrery/except/qexception.hpp>
 
 #include <string>
 
 namespace orrery::shell::eval {
 
-/// The user error a catalogued failure becomes: its identifier and text, the
-/// call stack of this moment, and the reporting function (empty for none).
-except::QException userErrorFrom(const except::IMsgIDException& failure, std::string functionName = {});
-
-/// The user error for running out of memory.
-except::QException outOfMemoryError();
+/// The one conversion of failures to the language's error object. Called from
+/// a catch handler at a boundary where the language takes over (a call by name,
+/// a statement, the parse of a program), it rethrows the exception in flight: a
+/// QException unchanged; a catalogued failure as a QException with its
+/// identifier and text, the call stack of this moment and functionName as the
+/// reporting function; running out of memory as "ORRERY:shell:outOfMemory".
+/// Anything else is an internal fault and passes on unchanged.
+[[noreturn]] void rethrowAsUserError(std::string functionName = {});
 
 /// Records the error as the last error, with its stack.
 void recordLastError(const except::QException& error);

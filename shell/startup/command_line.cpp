@@ -42,7 +42,7 @@ std::string usageText() {
            "or from ORRERY_MODULE_PATH (the module itself or the folder holding it).\n"
            "\n"
            "Exit status: 0, or 1 when an error was not caught (or the module could not\n"
-           "be loaded).\n";
+           "be loaded), or 70 after an internal error.\n";
 }
 
 std::string versionText() { return "orrery 0.1.0 (diagnostic module shell)\n"; }

@@ -14,6 +14,7 @@
 #include <sstream>
 
 namespace orrery::shell::startup {
+namespace {
 
 void reportError(const except::QException& error) {
     eval::recordLastError(error);
@@ -22,37 +23,63 @@ void reportError(const except::QException& error) {
     std::cerr.flush();
 }
 
-bool runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
-               const std::u16string& frameName) {
-    try {
-        const lang::Program program = lang::parse(source, sourceName);
-        interpreter.run(program, sourceName, frameName);
-        std::cout.flush();
-        return true;
-    } catch (const except::QException& error) {
-        reportError(error);
-    } catch (const except::IMsgIDException& failure) {
-        reportError(eval::userErrorFrom(failure));
-    } catch (const std::bad_alloc&) {
-        reportError(eval::outOfMemoryError());
-    }
-    return false;
+void reportInternalError(std::string_view what) {
+    std::cout.flush();
+    std::cerr << "Internal error: " << what << "\n";
+    std::cerr.flush();
 }
 
-bool runScriptFile(eval::Interpreter& interpreter, const std::string& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream content;
-    content << in.rdbuf();
-    if (!in || std::filesystem::is_directory(file)) {
-        try {
-            except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
-        } catch (const except::IMsgIDException& failure) {
-            reportError(eval::userErrorFrom(failure));
-            return false;
-        }
+void runProgram(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
+                const std::u16string& frameName) {
+    const lang::Program program = lang::parse(source, sourceName);
+    interpreter.run(program, sourceName, frameName);
+    std::cout.flush();
+}
+
+}  // namespace
+
+int exitStatus(RunOutcome outcome) {
+    switch (outcome) {
+    case RunOutcome::Completed: return 0;
+    case RunOutcome::UserError: return 1;
+    case RunOutcome::InternalFault: return 70;
     }
-    const std::u16string name = text::utf8ToUtf16(std::filesystem::path(file).stem().string());
-    return runSource(interpreter, content.str(), text::utf8ToUtf16(file), name);
+    return 70;
+}
+
+RunOutcome runAtTopLevel(const std::function<void()>& body) {
+    try {
+        try {
+            body();
+        } catch (...) {
+            eval::rethrowAsUserError();  // failures before any statement runs: options, loading, parsing
+        }
+        return RunOutcome::Completed;
+    } catch (const except::QException& error) {
+        reportError(error);
+        return RunOutcome::UserError;
+    } catch (const std::exception& fault) {
+        reportInternalError(fault.what());
+    } catch (...) {
+        reportInternalError("an exception of unknown type");
+    }
+    return RunOutcome::InternalFault;
+}
+
+RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
+                     const std::u16string& frameName) {
+    return runAtTopLevel([&] { runProgram(interpreter, source, sourceName, frameName); });
+}
+
+RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file) {
+    return runAtTopLevel([&] {
+        std::ifstream in(file, std::ios::binary);
+        std::ostringstream content;
+        content << in.rdbuf();
+        if (!in || std::filesystem::is_directory(file)) except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
+        const std::u16string name = text::utf8ToUtf16(std::filesystem::path(file).stem().string());
+        runProgram(interpreter, content.str(), text::utf8ToUtf16(file), name);
+    });
 }
 
 }  // namespace orrery::shell::startup

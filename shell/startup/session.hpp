@@ -1,26 +1,36 @@
-// Running source text at the top level: parse, run, and report what escapes.
+// Running at the top level: parse, run, and report what escapes.
 #pragma once
 
 #include "shell/eval/interpreter.hpp"
 
 #include <orrery/except/qexception.hpp>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
 namespace orrery::shell::startup {
 
-/// Parses and runs source text. A non-empty frameName runs it as a script
-/// (inside a call-stack frame). An error that escapes is recorded as the last
-/// error and printed on standard error; the answer is false then.
-bool runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
-               const std::u16string& frameName);
+/// How a top-level run ended.
+enum class RunOutcome { Completed, UserError, InternalFault };
+
+/// The exit status of a script that ended so: 0, 1 after an uncaught error, 70
+/// after an internal fault.
+int exitStatus(RunOutcome outcome);
+
+/// Runs body at the top level. An error that escapes it is recorded as the
+/// last error and printed on standard error ("Error: ..."); an internal fault
+/// is printed as "Internal error: ..." and recorded nowhere. Either way the
+/// session can go on.
+RunOutcome runAtTopLevel(const std::function<void()>& body);
+
+/// Parses and runs source text at the top level. A non-empty frameName runs
+/// it as a script (inside a call-stack frame).
+RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
+                     const std::u16string& frameName);
 
 /// Reads the script file and runs it in a frame named after the file (its
 /// name without folder and extension).
-bool runScriptFile(eval::Interpreter& interpreter, const std::string& file);
-
-/// Records an error that reached the top level and prints it.
-void reportError(const except::QException& error);
+RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file);
 
 }  // namespace orrery::shell::startup

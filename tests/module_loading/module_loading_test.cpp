@@ -1,6 +1,7 @@
 // Loads libdiagnostic.so the way the interpreter does and checks its entry points.
 #include "tests/support/expect_error.hpp"
 
+#include <orrery/interp/function_table.hpp>
 #include <orrery/services/services.hpp>
 #include <orrery/value/value_array.hpp>
 #include <orrery/warning/warning_manager.hpp>
@@ -44,7 +45,7 @@ TEST_F(LoadedModule, InitialisingTwiceRegistersTheResetBuiltinOnce) {
     initialise();
     initialise();
     EXPECT_EQ(services::svRegistrationCount("ResetLastPrintedWarning"), 1);
-    EXPECT_NE(services::svLookupBuiltin("ResetLastPrintedWarning"), nullptr);
+    EXPECT_TRUE(interp::isFunction("ResetLastPrintedWarning"));
     terminate();
     terminate();
     EXPECT_EQ(warning::utGetWarningLogFactoryFcn(), nullptr);
@@ -53,8 +54,10 @@ TEST_F(LoadedModule, InitialisingTwiceRegistersTheResetBuiltinOnce) {
 
 TEST_F(LoadedModule, ResetBuiltinClearsTheLastPrintedIdentifier) {
     entry<EntryPoint>("LxInitialize_diagnostic")();
-    auto reset = services::svLookupBuiltin("ResetLastPrintedWarning");
-    ASSERT_NE(reset, nullptr);
+    const auto reset = [](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
+                          const value::ValueArray* const* prhs) {
+        interp::callFunction("ResetLastPrintedWarning", nlhs, plhs, nrhs, prhs);
+    };
     auto* context = warning::utGetWarningManagerContext();
     warning::utSetLastPrintedWarningId(context, "ORRERY:a:b");
 

@@ -5,8 +5,7 @@
 
 #include <orrery/except/host_messages.hpp>
 #include <orrery/except/throw_message.hpp>
-#include <orrery/ocos/class_info.hpp>
-#include <orrery/ocos/method_info.hpp>
+#include <orrery/ocos/dispatch.hpp>
 #include <orrery/text/text.hpp>
 
 #include <map>
@@ -39,16 +38,6 @@ LanguageFunction lookUp(std::string_view name) {
     return found != functions.functions.end() ? found->second : LanguageFunction();
 }
 
-std::shared_ptr<const ocos::COSMethodInfo> findObjectMethod(std::string_view name, std::int32_t nrhs,
-                                                            const value::ValueArray* const* prhs) {
-    for (std::int32_t i = 0; i < nrhs; ++i) {
-        const value::ValueArray* input = prhs[i];
-        if (input == nullptr || !input->is(value::ClassId::Object) || !input->classInfo()) continue;
-        if (auto method = input->classInfo()->findMethod(name)) return method;
-    }
-    return nullptr;
-}
-
 }  // namespace
 
 void registerFunction(std::string_view name, LanguageFunction function) {
@@ -61,10 +50,7 @@ bool isFunction(std::string_view name) { return static_cast<bool>(lookUp(name));
 
 void callFunction(std::string_view name, std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
                   const value::ValueArray* const* prhs) {
-    if (const auto method = findObjectMethod(name, nrhs, prhs)) {
-        method->invoke(nlhs, plhs, nrhs, prhs);
-        return;
-    }
+    if (ocos::callMethodIfDefined(name, nlhs, plhs, nrhs, prhs)) return;
     // Called outside the lock: the function may itself call by name.
     const LanguageFunction function = lookUp(name);
     if (!function) except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));

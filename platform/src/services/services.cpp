@@ -1,4 +1,5 @@
 // Registered built-ins and feature switches of the services layer.
+#include <orrery/interp/function_table.hpp>
 #include <orrery/services/services.hpp>
 
 #include <map>
@@ -9,7 +10,6 @@ namespace {
 
 struct Registry {
     std::mutex mutex;
-    std::map<std::string, value::BuiltinFunction, std::less<>> builtins;
     std::map<std::string, int, std::less<>> registrations;
     std::map<std::string, bool, std::less<>> features;
 };
@@ -24,15 +24,8 @@ Registry& registry() {
 void svRegisterBuiltin(std::string_view name, int /*flags*/, value::BuiltinFunction function) {
     auto& r = registry();
     std::lock_guard lock(r.mutex);
-    r.builtins[std::string(name)] = function;
     ++r.registrations[std::string(name)];
-}
-
-value::BuiltinFunction svLookupBuiltin(std::string_view name) {
-    auto& r = registry();
-    std::lock_guard lock(r.mutex);
-    const auto found = r.builtins.find(name);
-    return found == r.builtins.end() ? nullptr : found->second;
+    interp::registerFunction(name, function);
 }
 
 int svRegistrationCount(std::string_view name) {

@@ -34,7 +34,7 @@ ValueArray messageObject() { return ocos::makeMessageObject({"ORRERY:assertion:f
 // An object whose class answers isscalar itself, with false.
 class NeverScalarMI final : public ocos::COSMethodInfo {
 public:
-    NeverScalarMI() : COSMethodInfo("isscalar") {}
+    NeverScalarMI() : COSMethodInfo("isscalar", ocos::COSMethodSignature({"probe.NeverScalar"}, {"logical scalar"})) {}
     void invoke(std::int32_t, value::ValueArrayPtr* plhs, std::int32_t, const ValueArray* const*) const override {
         plhs[0] = value::makeValue(ValueArray::logicalScalar(false));
     }

@@ -40,21 +40,23 @@ TEST(FunctionTable, IsscalarCountsElements) {
     EXPECT_MSGID(call("isscalar", {ValueArray(), ValueArray()}), "ORRERY:tooManyInputs");
 }
 
-TEST(FunctionTable, AnObjectsOwnMethodWinsWhereverTheObjectStands) {
-    // A class with its own isscalar, answering with the number of inputs.
+TEST(FunctionTable, TheFirstObjectsClassMethodWinsWithItsSignatureChecked) {
+    // A class with its own isscalar taking one object and answering 42.
     const auto ownClass = std::make_shared<orrery::ocos::COSClassInfo>("test.Own");
-    ownClass->addMethod(ocos_test::lambdaMethod("isscalar", {}, [](auto, ValueArrayPtr* plhs, std::int32_t nrhs, auto) {
-        plhs[0] = makeValue(ValueArray::scalar(nrhs));
-    }));
+    ownClass->addMethod(ocos_test::lambdaMethod("isscalar", {{"test.Own"}, {"double"}},
+                                                [](auto, ValueArrayPtr* plhs, auto, auto) {
+                                                    plhs[0] = makeValue(ValueArray::scalar(42));
+                                                }));
     const ValueArray own = ValueArray::objectArray(ownClass, Dims{2, 2});
-    EXPECT_EQ(call("isscalar", {own}).realAt(0), 1);
-    // The built-in would refuse two inputs; the method is asked instead. A plain
-    // object before it has no such method and is passed over.
-    EXPECT_EQ(call("isscalar", {plainObjects(Dims{1, 1}), own}).realAt(0), 2);
-    EXPECT_EQ(call("isscalar", {ValueArray::scalar(1), own}).realAt(0), 2);
+    EXPECT_EQ(call("isscalar", {own}).realAt(0), 42);
+    // The method decides even where the host's function would accept the call.
+    EXPECT_MSGID(call("isscalar", {ValueArray::scalar(1), own}), "ORRERY:tooManyInputs");
+    EXPECT_MSGID(call("isscalar", {own}, 2), "ORRERY:tooManyOutputs");
+    // The first object's class decides: a plain object first leaves the host's function.
+    EXPECT_MSGID(call("isscalar", {plainObjects(Dims{1, 1}), own}), "ORRERY:tooManyInputs");
+    EXPECT_TRUE(call("isscalar", {plainObjects(Dims{1, 1})}).logicalAt(0));
     // Other names still reach the table, whose sprintf refuses objects.
     EXPECT_MSGID(call("sprintf", {ValueArray::chars(u"x"), own}), "ORRERY:sprintf:unsupportedArgument");
-    EXPECT_EQ(call("sprintf", {ValueArray::chars(u"%d!"), ValueArray::scalar(3)}).text(), u"3!");
 }
 
 TEST(FunctionTable, RegistersReplacesAndRemovesNames) {

@@ -94,10 +94,11 @@ inline ValueArray makeGadget(const std::string& label) {
     return gadgets;
 }
 
-/// Calls the method chosen by the inputs and returns its first output.
+/// Calls the method chosen by the inputs and returns its first output; null
+/// when the dispatch class has no such method.
 inline ValueArrayPtr callOn(std::string_view name, std::int32_t nlhs, std::vector<const ValueArray*> inputs) {
     ValueArrayPtr out[2];
-    callMethod(name, nlhs, out, static_cast<std::int32_t>(inputs.size()), inputs.data());
+    callMethodIfDefined(name, nlhs, out, static_cast<std::int32_t>(inputs.size()), inputs.data());
     return std::move(out[0]);
 }
 

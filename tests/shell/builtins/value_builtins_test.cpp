@@ -3,6 +3,7 @@
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/ocos/class_info.hpp>
+#include <orrery/ocos/message_object.hpp>
 #include <orrery/ocos/method_info.hpp>
 
 #include <cmath>
@@ -57,7 +58,9 @@ struct Thing : orrery::ocos::COSObject {
 
 // A class isequal that calls every pair of its objects equal.
 struct AlwaysEqual : orrery::ocos::COSMethodInfo {
-    AlwaysEqual() : COSMethodInfo("isequal") {}
+    AlwaysEqual()
+        : COSMethodInfo("isequal", orrery::ocos::COSMethodSignature({"builtinstest.Defining", "builtinstest.Defining"},
+                                                                     {"logical scalar"})) {}
     void invoke(std::int32_t, orrery::value::ValueArrayPtr* plhs, std::int32_t,
                 const ValueArray* const*) const override {
         plhs[0] = orrery::value::makeValue(ValueArray::logicalScalar(true));
@@ -72,13 +75,16 @@ ValueArray thingOf(const std::shared_ptr<const orrery::ocos::COSClassInfo>& info
 
 }  // namespace
 
-TEST(IsequalBuiltin, ObjectsUseTheirClassIsequalEvenInsideCells) {
-    auto plain = std::make_shared<orrery::ocos::COSClassInfo>("builtinstest.Plain");
-    auto defining = std::make_shared<orrery::ocos::COSClassInfo>("builtinstest.Defining");
+TEST(IsequalBuiltin, ObjectsCompareByValueUnlessTheirClassDefinesIsequal) {
+    const auto message = [](const char* id) { return orrery::ocos::makeMessageObject({id, {}}); };
+    const ValueArray tooMany = message("ORRERY:tooManyInputs");
+    EXPECT_TRUE(truth(call1("isequal", {tooMany, message("ORRERY:tooManyInputs")}))) << "distinct instances, equal values";
+    EXPECT_FALSE(truth(call1("isequal", {tooMany, message("ORRERY:notEnoughInputs")})));
+    EXPECT_FALSE(truth(call1("isequal", {tooMany, num(1)})));
+    EXPECT_TRUE(truth(call1("isequal", {cellRow({tooMany}), cellRow({message("ORRERY:tooManyInputs")})})));
+    // A class's own isequal decides, at the top and inside containers.
+    const auto defining = std::make_shared<orrery::ocos::COSClassInfo>("builtinstest.Defining");
     defining->addMethod(std::make_shared<AlwaysEqual>());
-    const ValueArray p = thingOf(plain);
-    EXPECT_TRUE(truth(call1("isequal", {p, p})));
-    EXPECT_FALSE(truth(call1("isequal", {p, thingOf(plain)}))) << "distinct instances of a class without isequal";
     EXPECT_TRUE(truth(call1("isequal", {thingOf(defining), thingOf(defining)})));
     EXPECT_TRUE(truth(call1("isequal", {cellRow({thingOf(defining)}), cellRow({thingOf(defining)})})));
     EXPECT_FALSE(truth(call1("isequal", {cellRow({thingOf(defining)}), cellRow({num(1)})})));

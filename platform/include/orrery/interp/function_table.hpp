@@ -23,10 +23,11 @@ ORRERY_API void registerFunction(std::string_view name, LanguageFunction functio
 /// True when a function of that name is registered.
 ORRERY_API bool isFunction(std::string_view name);
 
-/// Calls a language function by name. The first input that is an object array
-/// whose class has a method of that name (COSClassInfo::findMethod) decides: that
-/// method runs instead (class methods win over the host's functions). Otherwise
-/// the registered function runs; an unknown name raises "ORRERY:undefinedFunction".
+/// Calls a language function by name. When the class of the first object input
+/// has a method of that name, the method runs instead, its signature checked
+/// (ocos::callMethodIfDefined: class methods win over the host's functions).
+/// Otherwise the registered function runs; an unknown name raises
+/// "ORRERY:undefinedFunction".
 /// plhs must have room for max(nlhs, 1) outputs: a function fills plhs[0] even
 /// when no output is requested, as the language's "ans" needs.
 ORRERY_API void callFunction(std::string_view name, std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,

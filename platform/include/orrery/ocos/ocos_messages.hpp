@@ -15,8 +15,6 @@ ORRERY_MESSAGE_KEY(ReadOnlyProperty, "ORRERY:ocos:readOnlyProperty");
 ORRERY_MESSAGE_KEY(NoSuchClass, "ORRERY:ocos:noSuchClass");
 /// {0} dotted function name.
 ORRERY_MESSAGE_KEY(NoSuchFunction, "ORRERY:ocos:noSuchFunction");
-/// {0} method, {1} class.
-ORRERY_MESSAGE_KEY(NoSuchMethod, "ORRERY:ocos:noSuchMethod");
 /// {0} one-based element index, {1} class.
 ORRERY_MESSAGE_KEY(InvalidElement, "ORRERY:ocos:invalidElement");
 /// {0} one-based argument position, {1} method or function, {2} declared type.

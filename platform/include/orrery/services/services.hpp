@@ -9,12 +9,11 @@
 
 namespace orrery::services {
 
-/// Registers a built-in under a name; a second registration of the same name
-/// replaces the function. flags is kept for the host and not interpreted.
+/// Registers a built-in under a name in the interpreter's function table
+/// (interp::registerFunction), where calls by name find it; a second
+/// registration of the same name replaces the function. flags is kept for the
+/// host and not interpreted.
 ORRERY_API void svRegisterBuiltin(std::string_view name, int flags, value::BuiltinFunction function);
-
-/// The built-in registered under the name, or null.
-ORRERY_API value::BuiltinFunction svLookupBuiltin(std::string_view name);
 
 /// How many times a name has been registered (tests use it to check once-only registration).
 ORRERY_API int svRegistrationCount(std::string_view name);
