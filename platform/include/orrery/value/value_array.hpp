@@ -125,8 +125,6 @@ public:
     // ---- sharing --------------------------------------------------------------
     /// A copy sharing the data (the language's assignment).
     ValueArray sharedCopy() const { return *this; }
-    /// True when both share one data block (for tests of copy-on-write).
-    bool sharesDataWith(const ValueArray& other) const noexcept { return data_ == other.data_; }
 
     struct Data;
 
