@@ -13,20 +13,6 @@
 namespace orrery::value {
 namespace {
 
-template <class T>
-constexpr ClassId classOf() {
-    if constexpr (std::is_same_v<T, double>) return ClassId::Double;
-    else if constexpr (std::is_same_v<T, float>) return ClassId::Single;
-    else if constexpr (std::is_same_v<T, std::int8_t>) return ClassId::Int8;
-    else if constexpr (std::is_same_v<T, std::uint8_t>) return ClassId::UInt8;
-    else if constexpr (std::is_same_v<T, std::int16_t>) return ClassId::Int16;
-    else if constexpr (std::is_same_v<T, std::uint16_t>) return ClassId::UInt16;
-    else if constexpr (std::is_same_v<T, std::int32_t>) return ClassId::Int32;
-    else if constexpr (std::is_same_v<T, std::uint32_t>) return ClassId::UInt32;
-    else if constexpr (std::is_same_v<T, std::int64_t>) return ClassId::Int64;
-    else return ClassId::UInt64;
-}
-
 // Rounds to nearest and saturates, as the language converts to integer classes.
 template <class T>
 T convertNumber(double value) {
@@ -224,13 +210,13 @@ void ValueArray::setRealAt(std::size_t i, double value) {
 
 template <class T>
 std::span<const T> ValueArray::data() const {
-    requireClass(classOf<T>());
+    requireClass(classIdOf<T>());
     return std::get<std::vector<T>>(data_->store);
 }
 
 template <class T>
 std::span<T> ValueArray::mutableData() {
-    requireClass(classOf<T>());
+    requireClass(classIdOf<T>());
     return std::get<std::vector<T>>(mutate().store);
 }
 

@@ -1,0 +1,220 @@
+// Tests of the warning record: conversions to and from interpreter values, copies,
+// the time stamp and the comparison.
+#include <orrery/interp/dates.hpp>
+#include <orrery/lang/warning.hpp>
+
+#include "tests/support/builtin_call.hpp"
+#include "tests/support/expect_error.hpp"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+using orrery::lang::PrintfArgument;
+using orrery::lang::StackFrame;
+using orrery::lang::diagnostic::Warning;
+using orrery::testing::chars;
+using orrery::testing::row;
+using orrery::testing::stackOf;
+using orrery::value::ClassId;
+using orrery::value::Dims;
+using orrery::value::ValueArray;
+
+namespace {
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+Warning record(double time, std::string identifier, std::vector<PrintfArgument> arguments = {},
+               std::vector<StackFrame> stack = {}, bool wasDisabled = false) {
+    Warning w;
+    w.setTime(time);
+    w.setIdentifier(std::move(identifier));
+    w.setMessage(u"message");
+    w.setFormat(u"format %d");
+    w.setArguments(std::move(arguments));
+    w.setStack(std::move(stack));
+    w.setWasDisabled(wasDisabled);
+    return w;
+}
+
+ValueArray cellOf(std::vector<ValueArray> elements, Dims dims) {
+    auto cell = ValueArray::cell(std::move(dims));
+    for (std::size_t i = 0; i < elements.size(); ++i) cell.setCellAt(i, elements[i]);
+    return cell;
+}
+
+}  // namespace
+
+TEST(Warning, ArgumentsRoundTripThroughACellOfTheirOwnClasses) {
+    const struct {
+        PrintfArgument argument;
+        ClassId cellClass;
+    } cases[] = {
+        {std::numeric_limits<std::int32_t>::min(), ClassId::Int32},
+        {std::numeric_limits<std::uint32_t>::max(), ClassId::UInt32},
+        {std::numeric_limits<std::int64_t>::min(), ClassId::Int64},
+        {std::numeric_limits<std::uint64_t>::max(), ClassId::UInt64},
+        {0.1, ClassId::Double},
+        {kNaN, ClassId::Double},
+        {std::u16string(u"x"), ClassId::Char},
+        {std::u16string(u"two words"), ClassId::Char},
+        {std::u16string(), ClassId::Char},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(static_cast<int>(c.cellClass));
+        Warning w = record(1, "a:b", {c.argument, std::int32_t{7}});
+        const Warning before = w;
+        const auto cell = w.getArgumentsAsValueArray();
+        ASSERT_EQ(cell->dims(), (Dims{1, 2}));
+        EXPECT_EQ(cell->cellAt(0).classId(), c.cellClass);
+        w.setArguments(cell.get());
+        EXPECT_EQ(w, before);
+    }
+}
+
+TEST(Warning, StacksRoundTripThroughTheStackStructure) {
+    const std::vector<std::vector<StackFrame>> stacks = {
+        {},
+        {{u"f.orr", u"f", 0}},
+        {{u"/a/inner.orr", u"inner", 12}, {u"", u"", std::numeric_limits<std::uint32_t>::max()}},
+    };
+    for (const auto& stack : stacks) {
+        SCOPED_TRACE(stack.size());
+        Warning w = record(1, "a:b", {}, stack);
+        const auto value = w.getStackAsValueArray();
+        EXPECT_EQ(value->dims(), (Dims{stack.size(), 1}));
+        EXPECT_EQ(value->fieldNames(), (std::vector<std::string>{"file", "name", "line"}));
+        w.setStack(std::vector<StackFrame>{});
+        w.setStack(value.get());
+        EXPECT_EQ(w.getStack(), stack);
+    }
+}
+
+TEST(Warning, SettersRefuseValuesOfAnotherShapeAndKeepTheRecord) {
+    const Warning original = record(1, "a:b", {std::int32_t{1}}, {{u"f", u"f", 1}});
+    auto lineUnset = ValueArray::stackStructure(1);
+    lineUnset.setField(0, "file", chars("f"));
+    lineUnset.setField(0, "name", chars("f"));
+    const struct {
+        const char* what;
+        bool stack;
+        ValueArray value;
+        const char* identifier;
+    } cases[] = {
+        {"arguments not a cell", false, row({1}), "ORRERY:warning:badArguments"},
+        {"arguments in a matrix", false, ValueArray::cell(Dims{2, 2}), "ORRERY:warning:badArguments"},
+        {"logical argument", false, cellOf({ValueArray::logicalScalar(true)}, Dims{1, 1}),
+         "ORRERY:warning:badArgument"},
+        {"int8 argument", false, cellOf({ValueArray::numericScalar(ClassId::Int8, 1)}, Dims{1, 1}),
+         "ORRERY:warning:badArgument"},
+        {"double row argument", false, cellOf({row({1, 2})}, Dims{1, 1}), "ORRERY:warning:badArgument"},
+        {"missing string argument", false, cellOf({ValueArray::missingString()}, Dims{1, 1}),
+         "ORRERY:warning:badArgument"},
+        {"stack not a struct", true, ValueArray::cell(Dims{1, 1}), "ORRERY:warning:badStack"},
+        {"stack in a matrix", true, ValueArray::structArray(Dims{2, 2}, {"file", "name", "line"}),
+         "ORRERY:warning:badStack"},
+        {"stack without line", true, ValueArray::structArray(Dims{1, 1}, {"file", "name"}), "ORRERY:warning:badStack"},
+        {"line unset", true, lineUnset, "ORRERY:warning:badStackFrame"},
+        {"numeric file", true, stackOf({{row({1}), chars("f"), row({1})}}), "ORRERY:warning:badStackFrame"},
+        {"negative line", true, stackOf({{chars("f"), chars("f"), row({-1})}}), "ORRERY:warning:badStackFrame"},
+        {"fractional line", true, stackOf({{chars("f"), chars("f"), row({1.5})}}), "ORRERY:warning:badStackFrame"},
+        {"line past 32 bits", true, stackOf({{chars("f"), chars("f"), row({4294967296.0})}}),
+         "ORRERY:warning:badStackFrame"},
+        {"NaN line", true, stackOf({{chars("f"), chars("f"), row({kNaN})}}), "ORRERY:warning:badStackFrame"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        Warning w = original;
+        if (c.stack) {
+            EXPECT_MSGID(w.setStack(&c.value), c.identifier);
+        } else {
+            EXPECT_MSGID(w.setArguments(&c.value), c.identifier);
+        }
+        EXPECT_EQ(w, original);
+    }
+    Warning w = original;
+    const auto second = cellOf({row({1}), ValueArray::logicalScalar(true)}, Dims{2, 1});
+    EXPECT_MSGID_TEXT(w.setArguments(&second), "ORRERY:warning:badArgument",
+                      "Argument 2 of a warning must be an int32, uint32, int64, uint64 or double scalar, or a text.");
+}
+
+TEST(Warning, SettersTakeTextsInEitherFormAndStacksInEitherOrientation) {
+    Warning w;
+    const auto texts = cellOf({ValueArray::string(u"s"), chars("c")}, Dims{2, 1});
+    w.setArguments(&texts);
+    EXPECT_EQ(w.getArguments(), (std::vector<PrintfArgument>{std::u16string(u"s"), std::u16string(u"c")}));
+    auto rowStack = ValueArray::structArray(Dims{1, 1}, {"line", "name", "file", "extra"});
+    rowStack.setField(0, "file", ValueArray::string(u"f"));
+    rowStack.setField(0, "name", chars("n"));
+    rowStack.setField(0, "line", ValueArray::numericScalar(ClassId::UInt8, 3));
+    w.setStack(&rowStack);
+    EXPECT_EQ(w.getStack(), (std::vector<StackFrame>{{u"f", u"n", 3}}));
+}
+
+TEST(Warning, CopiesAreIndependent) {
+    const Warning source = record(1, "a:b", {std::int32_t{1}}, {{u"f", u"f", 1}});
+    Warning copy = source;
+    copy.setStack({{u"g", u"g", 2}});
+    copy.setArguments(std::vector<PrintfArgument>{});
+    EXPECT_EQ(source.getStack(), (std::vector<StackFrame>{{u"f", u"f", 1}}));
+    EXPECT_EQ(source.getArguments().size(), 1u);
+}
+
+TEST(Warning, TimestampTakesTheCurrentLocalTime) {
+    Warning w;
+    const double before = orrery::interp::nowSerial();
+    w.timestamp();
+    const double after = orrery::interp::nowSerial();
+    EXPECT_GE(w.getTime(), before);
+    EXPECT_LE(w.getTime(), after);
+}
+
+TEST(Warning, ComparisonIsAStrictWeakOrderingConsistentWithEquality) {
+    const std::vector<Warning> records = {
+        record(2, "a:b"),
+        record(2, "a:b"),
+        record(1, "z:z"),
+        record(kNaN, "a:b"),
+        record(kNaN, "a:b"),
+        record(2, "a:b", {std::int32_t{1}}),
+        record(2, "a:b", {1.0}),
+        record(2, "a:b", {}, {{u"f", u"f", 1}}),
+        record(2, "a:b", {}, {}, true),
+        record(-0.0, "a:c"),
+        record(0.0, "a:c"),
+    };
+    const auto equivalent = [](const Warning& a, const Warning& b) { return !(a < b) && !(b < a); };
+    for (const auto& a : records) {
+        EXPECT_FALSE(a < a);
+        for (const auto& b : records) {
+            EXPECT_NE(a == b, a != b);
+            EXPECT_EQ(equivalent(a, b), a == b);
+            EXPECT_FALSE(a < b && b < a);
+            for (const auto& c : records) {
+                EXPECT_FALSE(a < b && b < c && !(a < c));
+                EXPECT_FALSE(equivalent(a, b) && equivalent(b, c) && !equivalent(a, c));
+            }
+        }
+    }
+    EXPECT_TRUE(records[2] < records[0]) << "time of issue comes first";
+    EXPECT_EQ(records[3], records[4]) << "a record equals its copy even with a NaN time";
+}
+
+TEST(Warning, EveryFieldTakesPartInTheComparison) {
+    const Warning base = record(2, "a:b", {std::int32_t{1}}, {{u"f", u"f", 1}});
+    std::vector<Warning> changed(7, base);
+    changed[0].setIdentifier("a:c");
+    changed[1].setMessage(u"other");
+    changed[2].setFormat(u"other");
+    changed[3].setArguments({std::int32_t{2}});
+    changed[4].setStack({{u"f", u"f", 2}});
+    changed[5].setTime(3);
+    changed[6].setWasDisabled(true);
+    for (std::size_t i = 0; i < changed.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_NE(base, changed[i]);
+        EXPECT_TRUE(base < changed[i]);
+    }
+}
