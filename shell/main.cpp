@@ -9,6 +9,7 @@
 #include "shell/startup/session.hpp"
 
 #include <orrery/except/msg_id_exception.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <cstdio>
@@ -45,6 +46,9 @@ int run(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // The interpreter's state, current from before the module is loaded until
+    // after it is terminated.
+    const interp::VirtualMachineScope machine;
     // Whole lines reach the terminal or pipe in the order they were written,
     // whichever of standard output and standard error they go to.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);

@@ -11,8 +11,8 @@ namespace {
 
 // The identifier's own state, else the "all" default. An empty identifier has no
 // state of its own, whatever was stored under "".
-int applicableState(WarningManagerContext* context, std::string_view identifier) {
-    if (context == nullptr) return kWarningOn;
+WarningState applicableState(WarningManagerContext* context, std::string_view identifier) {
+    if (context == nullptr) return WarningState::On;
     return utGetWarningStatus(context, identifier.empty() ? std::string_view("all") : identifier);
 }
 
@@ -20,9 +20,9 @@ int applicableState(WarningManagerContext* context, std::string_view identifier)
 
 bool issueWarningWithoutLogging(WarningManagerContext* context, std::string_view identifier,
                                 std::u16string_view message) {
-    const int state = applicableState(context, identifier);
-    if (state == kWarningOff) return true;
-    if (state == kWarningError)
+    const WarningState state = applicableState(context, identifier);
+    if (state == WarningState::Off) return true;
+    if (state == WarningState::Error)
         except::QExceptionEnvelope(std::string(identifier), std::u16string(message), std::nullopt, 1).DoThrow();
 
     std::u16string text(message);

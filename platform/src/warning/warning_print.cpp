@@ -65,8 +65,8 @@ std::string hintLine(std::string_view identifier) {
 std::string renderWarning(WarningManagerContext* context, std::string_view identifier, std::u16string_view message) {
     std::string text = "Warning: " + toUtf8Replacing(message) + "\n";
     if (context == nullptr) return text;
-    if (utIsWarningModeOn(context, kModeBacktrace)) text += locationLine();
-    if (utIsWarningModeOn(context, kModeVerbose) && !identifier.empty()) text += hintLine(identifier);
+    if (utIsWarningModeOn(context, WarningMode::Backtrace)) text += locationLine();
+    if (utIsWarningModeOn(context, WarningMode::Verbose) && !identifier.empty()) text += hintLine(identifier);
     return text;
 }
 

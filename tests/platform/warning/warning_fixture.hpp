@@ -2,12 +2,14 @@
 // printed warnings captured in a string, and a log double.
 #pragma once
 
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/warning/warning_log.hpp>
 #include <orrery/warning/warning_manager.hpp>
 #include <orrery/warning/warning_operation.hpp>
 
 #include <gmock/gmock.h>
 
+#include <optional>
 #include <sstream>
 
 namespace orrery::warning::testing {
@@ -26,8 +28,9 @@ public:
     void closeLog(const std::u16string&) override { ADD_FAILURE() << "unexpected log operation"; }
 };
 
-/// Gives each test a new context with the initial states and modes, and collects
-/// printed warnings instead of writing them to standard error.
+/// Gives each test a virtual machine of its own, so a new context with the initial
+/// states and modes, and collects printed warnings instead of writing them to
+/// standard error. Logs set by the tests are not destroyed by their context.
 class WarningTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -36,14 +39,14 @@ protected:
     }
     void TearDown() override {
         setWarningOutput(previousOutput_);
-        utSetWarningLog(context, nullptr);
+        machine_.reset();
     }
 
-    /// Replaces the context by a new one (no log is destroyed with the old one).
+    /// Replaces the machine, and so the context, by a new one.
     void freshContext() {
         utSetWarningLogDestroyFcn(nullptr);
-        utSetWarningManagerContextPresent(false);
-        utSetWarningManagerContextPresent(true);
+        machine_.reset();
+        machine_.emplace();
         context = utGetWarningManagerContext();
     }
 
@@ -57,6 +60,7 @@ protected:
     WarningManagerContext* context = nullptr;
 
 private:
+    std::optional<interp::VirtualMachineScope> machine_;
     std::ostringstream output_;
     std::ostream* previousOutput_ = nullptr;
 };
