@@ -8,13 +8,14 @@
 #include "shell/startup/module_loader.hpp"
 #include "shell/startup/session.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/msg_id_exception.hpp>
 #include <orrery/interp/virtual_machine.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <optional>
+#include <string>
 
 namespace {
 
@@ -30,7 +31,7 @@ value::ValueArray argumentCell(const std::vector<std::string>& args) {
 int run(const Options& options) {
     const shell::startup::DiagnosticModule module(shell::startup::locateModule());
     shell::registerHostBuiltins();
-    shell::eval::Interpreter interpreter(std::cout);
+    shell::eval::Interpreter interpreter;
     shell::setVariableQuery([&interpreter](std::string_view name) { return interpreter.isVariable(name); });
     interpreter.baseWorkspace().set("argv", argumentCell(options.scriptArgs));
     bool succeeded = true;
@@ -55,11 +56,11 @@ int main(int argc, char** argv) {
     try {
         const Options options = shell::startup::parseCommandLine({argv + 1, argv + argc});
         if (options.mode == Options::Mode::Help) {
-            std::cout << shell::startup::usageText();
+            console::consoleWrite(console::ConsoleStream::Output, shell::startup::usageText());
             return 0;
         }
         if (options.mode == Options::Mode::Version) {
-            std::cout << shell::startup::versionText();
+            console::consoleWrite(console::ConsoleStream::Output, shell::startup::versionText());
             return 0;
         }
         return run(options);
@@ -68,8 +69,7 @@ int main(int argc, char** argv) {
     } catch (const except::IMsgIDException& failure) {
         shell::startup::reportError(shell::eval::userErrorFrom(failure));
     } catch (const std::exception& failure) {
-        std::cout.flush();
-        std::cerr << "Internal error: " << failure.what() << "\n";
+        console::consoleWrite(console::ConsoleStream::Error, std::string("Internal error: ") + failure.what() + "\n");
     }
     return 1;
 }

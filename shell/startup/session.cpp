@@ -5,21 +5,19 @@
 #include "shell/lang/parser.hpp"
 #include "shell/startup/startup_messages.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <sstream>
 
 namespace orrery::shell::startup {
 
 void reportError(const except::QException& error) {
     eval::recordLastError(error);
-    std::cout.flush();
-    std::cerr << eval::uncaughtErrorText(error);
-    std::cerr.flush();
+    console::consoleWrite(console::ConsoleStream::Error, eval::uncaughtErrorText(error));
 }
 
 bool runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
@@ -27,7 +25,6 @@ bool runSource(eval::Interpreter& interpreter, std::string_view source, const st
     try {
         const lang::Program program = lang::parse(source, sourceName);
         interpreter.run(program, sourceName, frameName);
-        std::cout.flush();
         return true;
     } catch (const except::QException& error) {
         reportError(error);

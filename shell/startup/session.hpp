@@ -12,7 +12,7 @@ namespace orrery::shell::startup {
 
 /// Parses and runs source text. A non-empty frameName runs it as a script
 /// (inside a call-stack frame). An error that escapes is recorded as the last
-/// error and printed on standard error; the answer is false then.
+/// error and printed on the console's error stream; the answer is false then.
 bool runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
                const std::u16string& frameName);
 

@@ -4,6 +4,8 @@
 
 #include <orrery/interp/virtual_machine.hpp>
 
+#include <utility>
+
 namespace orrery::interp {
 namespace {
 thread_local VirtualMachine* currentMachine = nullptr;
@@ -17,6 +19,10 @@ VirtualMachine::VirtualMachine()
 VirtualMachine::~VirtualMachine() = default;
 
 std::shared_ptr<events::EventPublisher> VirtualMachine::eventPublisher() const { return publisher_; }
+
+std::shared_ptr<console::ConsoleSink> VirtualMachine::setConsole(std::shared_ptr<console::ConsoleSink> sink) noexcept {
+    return std::exchange(console_, std::move(sink));
+}
 
 VirtualMachine* currentLocalVirtualMachine() noexcept { return currentMachine; }
 

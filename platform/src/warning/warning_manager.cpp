@@ -1,6 +1,7 @@
 // The warning manager's operations on the context of a virtual machine.
 #include "warning/warning_manager_context.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/internal_error.hpp>
 #include <orrery/interp/virtual_machine.hpp>
 #include <orrery/text/text.hpp>
@@ -143,9 +144,15 @@ bool utIsValidMessageIdentifier(std::string_view identifier) {
 void utPrintf(const char* format, ...) {
     std::va_list arguments;
     va_start(arguments, format);
-    std::vfprintf(stdout, format, arguments);
+    std::va_list again;
+    va_copy(again, arguments);
+    const int length = std::vsnprintf(nullptr, 0, format, arguments);
     va_end(arguments);
-    std::fflush(stdout);
+    std::string text(static_cast<std::size_t>(length > 0 ? length : 0), '\0');
+    if (length > 0) std::vsnprintf(text.data(), text.size() + 1, format, again);
+    va_end(again);
+    if (length < 0) except::internalError(kComponent, "utPrintf cannot render its format");
+    console::consoleWrite(console::ConsoleStream::Output, text);
 }
 
 }  // namespace orrery::warning

@@ -3,6 +3,7 @@
 #include "warning/warning_filter_stack.hpp"
 #include "warning/warning_print.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/qexception_envelope.hpp>
 #include <orrery/warning/warning_operation.hpp>
 
@@ -27,7 +28,7 @@ bool issueWarningWithoutLogging(WarningManagerContext* context, std::string_view
 
     std::u16string text(message);
     if (!runWarningFilters(text)) return false;
-    writeWarningOutput(renderWarning(context, identifier, text));
+    console::consoleWrite(console::ConsoleStream::Error, renderWarning(context, identifier, text));
     if (context != nullptr) utSetLastPrintedWarningId(context, identifier);
     return false;
 }

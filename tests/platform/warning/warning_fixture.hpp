@@ -2,6 +2,7 @@
 // printed warnings captured in a string, and a log double.
 #pragma once
 
+#include <orrery/console/console_capture.hpp>
 #include <orrery/interp/virtual_machine.hpp>
 #include <orrery/warning/warning_log.hpp>
 #include <orrery/warning/warning_manager.hpp>
@@ -10,7 +11,6 @@
 #include <gmock/gmock.h>
 
 #include <optional>
-#include <sstream>
 
 namespace orrery::warning::testing {
 
@@ -33,27 +33,28 @@ public:
 /// standard error. Logs set by the tests are not destroyed by their context.
 class WarningTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        freshContext();
-        previousOutput_ = setWarningOutput(&output_);
-    }
+    void SetUp() override { freshContext(); }
     void TearDown() override {
-        setWarningOutput(previousOutput_);
+        console_.reset();
         machine_.reset();
     }
 
     /// Replaces the machine, and so the context, by a new one.
     void freshContext() {
         utSetWarningLogDestroyFcn(nullptr);
+        console_.reset();
         machine_.reset();
         machine_.emplace();
+        console_.emplace();
         context = utGetWarningManagerContext();
     }
 
-    /// What has been printed so far; clears the capture.
+    /// What has been printed on the current machine's console so far; clears
+    /// the capture. Warnings go to the error stream only.
     std::string takePrinted() {
-        std::string printed = output_.str();
-        output_.str({});
+        EXPECT_EQ(console_->output(), "");
+        std::string printed = console_->error();
+        console_->clear();
         return printed;
     }
 
@@ -61,8 +62,7 @@ protected:
 
 private:
     std::optional<interp::VirtualMachineScope> machine_;
-    std::ostringstream output_;
-    std::ostream* previousOutput_ = nullptr;
+    std::optional<console::ConsoleCapture> console_;
 };
 
 }  // namespace orrery::warning::testing

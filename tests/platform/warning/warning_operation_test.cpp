@@ -88,13 +88,15 @@ TEST_F(WarningOperation, FiltersBelongToTheMachineThatRegisteredThem) {
     auto silencer = std::make_unique<WarningFilter>(refuse);
     {
         const interp::VirtualMachineScope other;
+        const console::ConsoleCapture otherConsole;
         EXPECT_FALSE(issueWarningWithoutLogging(utGetWarningManagerContext(), "a:b", u"elsewhere"));
-        EXPECT_EQ(takePrinted(), "Warning: elsewhere\n") << "another machine's filter does not apply";
+        EXPECT_EQ(otherConsole.error(), "Warning: elsewhere\n") << "another machine's filter does not apply";
         const WarningFilter otherSilencer(refuse);
         silencer.reset();  // leaves its own machine, not the current one
         issueWarningWithoutLogging(utGetWarningManagerContext(), "a:b", u"still silenced");
-        EXPECT_EQ(takePrinted(), "");
+        EXPECT_EQ(otherConsole.error(), "Warning: elsewhere\n");
     }
+    EXPECT_EQ(takePrinted(), "") << "each machine prints on its own console";
     issueWarningWithoutLogging(context, "a:b", u"shown");
     EXPECT_EQ(takePrinted(), "Warning: shown\n");
 }

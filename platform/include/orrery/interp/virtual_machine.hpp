@@ -2,6 +2,7 @@
 // thread's current machine that the platform's services act on.
 #pragma once
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/events/event_publisher.hpp>
 #include <orrery/except/qexception.hpp>
 #include <orrery/export.hpp>
@@ -18,7 +19,7 @@ namespace orrery::interp {
 
 /// One interpreter instance. It owns everything that instance keeps between
 /// calls: the event publisher, the warning manager context, the last error, the
-/// call stack and the stack of warning-output filters.
+/// call stack, the stack of warning-output filters and the console sink.
 class ORRERY_API VirtualMachine {
 public:
     VirtualMachine();
@@ -41,9 +42,18 @@ public:
     /// The stack of warning-output filters; never null. Filters hold it weakly.
     const std::shared_ptr<warning::WarningFilterStack>& warningFilters() const noexcept { return warningFilters_; }
 
+    /// Where the machine's console text goes: the standard console unless redirected.
+    console::ConsoleSink& console() const noexcept { return console_ ? *console_ : console::standardConsole(); }
+
+    /// Redirects the machine's console text to sink (null: the standard console);
+    /// answers the sink it replaces (null for the standard console).
+    std::shared_ptr<console::ConsoleSink> setConsole(std::shared_ptr<console::ConsoleSink> sink) noexcept;
+
 private:
     // Destroyed in reverse order: the warning manager context goes first, since
-    // the log it owns may remove a warning filter when it is destroyed.
+    // the log it owns may remove a warning filter or write to the console when
+    // it is destroyed.
+    std::shared_ptr<console::ConsoleSink> console_;
     std::shared_ptr<warning::WarningFilterStack> warningFilters_;
     CallStack callStack_;
     except::QException::LastError::Record lastError_;

@@ -69,7 +69,7 @@ ORRERY_API void utCallRegisteredWarningCallback(WarningManagerContext* context);
 /// each starts with a letter and continues with letters, digits, "_" or "-".
 ORRERY_API bool utIsValidMessageIdentifier(std::string_view identifier);
 
-/// Console output (standard output), printf-style.
+/// Writes printf-style formatted text to the console's output stream.
 ORRERY_API void utPrintf(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 }  // namespace orrery::warning

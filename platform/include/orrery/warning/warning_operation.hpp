@@ -8,7 +8,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -63,9 +62,5 @@ private:
     std::weak_ptr<WarningFilterStack> stack_;
     std::size_t id_ = 0;
 };
-
-/// Sends printed warnings to output (null: standard error, the default) and
-/// returns the previous destination. The stream must outlive its use.
-ORRERY_API std::ostream* setWarningOutput(std::ostream* output);
 
 }  // namespace orrery::warning
