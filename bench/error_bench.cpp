@@ -5,6 +5,7 @@
 #include "diagnostic/errors/error_builtins.hpp"
 
 #include <orrery/except/qexception.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <exception>
@@ -53,4 +54,8 @@ void errorBuiltinFloor(benchmark::State& state) {
 BENCHMARK(errorBuiltin)->Repetitions(5);
 BENCHMARK(errorBuiltinFloor)->Repetitions(5);
 
-int main(int argc, char** argv) { return orrery::bench::runWithRatios(argc, argv); }
+int main(int argc, char** argv) {
+    // Errors are raised inside an interpreter instance, as in a session.
+    const orrery::interp::VirtualMachineScope machine;
+    return orrery::bench::runWithRatios(argc, argv);
+}

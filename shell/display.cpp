@@ -4,8 +4,6 @@
 #include "shell/display/body.hpp"
 #include "shell/display/number_format.hpp"
 
-#include <ostream>
-
 namespace orrery::shell {
 namespace {
 
@@ -52,16 +50,6 @@ std::string dispText(const ValueArray& value) {
     if (value.is(ClassId::Cell)) return render::cellRows(value);
     if (value.is(ClassId::Struct) && value.isScalar()) return render::structFields(value, 0);
     return render::valueBody(value);
-}
-
-void display(std::ostream& out, std::string_view name, const ValueArray& value) {
-    out << displayText(name, value);
-    out.flush();
-}
-
-void disp(std::ostream& out, const ValueArray& value) {
-    out << dispText(value);
-    out.flush();
 }
 
 }  // namespace orrery::shell

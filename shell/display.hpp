@@ -4,7 +4,6 @@
 
 #include <orrery/value/value_array.hpp>
 
-#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -21,11 +20,5 @@ std::string displayText(std::string_view name, const value::ValueArray& value);
 /// ending with a newline. Char rows print without quotes and string scalars
 /// without double quotes; an empty numeric, char or cell value prints nothing.
 std::string dispText(const value::ValueArray& value);
-
-/// Writes displayText(name, value) to the stream.
-void display(std::ostream& out, std::string_view name, const value::ValueArray& value);
-
-/// Writes dispText(value) to the stream.
-void disp(std::ostream& out, const value::ValueArray& value);
 
 }  // namespace orrery::shell

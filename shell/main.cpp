@@ -7,11 +7,12 @@
 #include "shell/startup/module_loader.hpp"
 #include "shell/startup/session.hpp"
 
+#include <orrery/console/console_sink.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/value/value_array.hpp>
 
-#include <cstdio>
-#include <iostream>
 #include <optional>
+#include <string>
 
 namespace {
 
@@ -29,7 +30,7 @@ int run(const Options& options) {
     const auto loaded = shell::startup::runAtTopLevel([&] { module.emplace(shell::startup::locateModule()); });
     if (loaded != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(loaded);
     shell::registerHostBuiltins();
-    shell::eval::Interpreter interpreter(std::cout);
+    shell::eval::Interpreter interpreter;
     shell::setVariableQuery([&interpreter](std::string_view name) { return interpreter.isVariable(name); });
     interpreter.baseWorkspace().set("argv", argumentCell(options.scriptArgs));
     auto outcome = shell::startup::RunOutcome::Completed;
@@ -45,19 +46,19 @@ int run(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Whole lines reach the terminal or pipe in the order they were written,
-    // whichever of standard output and standard error they go to.
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    // The interpreter's state, current from before the module is loaded until
+    // after it is terminated.
+    const interp::VirtualMachineScope machine;
     Options options;
     const auto parsed =
         shell::startup::runAtTopLevel([&] { options = shell::startup::parseCommandLine({argv + 1, argv + argc}); });
     if (parsed != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(parsed);
     if (options.mode == Options::Mode::Help) {
-        std::cout << shell::startup::usageText();
+        console::consoleWrite(console::ConsoleStream::Output, shell::startup::usageText());
         return 0;
     }
     if (options.mode == Options::Mode::Version) {
-        std::cout << shell::startup::versionText();
+        console::consoleWrite(console::ConsoleStream::Output, shell::startup::versionText());
         return 0;
     }
     return run(options);

@@ -29,8 +29,7 @@ void LxInitialize_diagnostic() {
 void LxTerminate_diagnostic() {
     orrery::warning::utSetWarningLogFactoryFcn(nullptr);
     orrery::warning::utSetWarningLogDestroyFcn(nullptr);
-    if (auto* context = orrery::warning::utGetWarningManagerContext()) {
-        if (auto* log = orrery::warning::utGetWarningLog(context)) delete log;
+    // The context destroys its log through the destroy function it was set with.
+    if (auto* context = orrery::warning::utGetWarningManagerContext())
         orrery::warning::utSetWarningLog(context, nullptr);
-    }
 }

@@ -3,11 +3,11 @@
 
 #include "shell/builtins/builtin_messages.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
 #include <cmath>
-#include <iostream>
 #include <vector>
 
 namespace orrery::shell::builtins {
@@ -82,14 +82,8 @@ void requireNumeric(const ValueArray& argument, std::string_view function) {
     except::throwMessage(messages::NotNumeric(wide(function), text::utf8ToUtf16(argument.className())));
 }
 
-void writeOutput(std::string_view text) {
-    std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
-    std::cout.flush();
-}
+void writeOutput(std::string_view text) { console::consoleWrite(console::ConsoleStream::Output, text); }
 
-void writeErrorOutput(std::string_view text) {
-    std::cerr.write(text.data(), static_cast<std::streamsize>(text.size()));
-    std::cerr.flush();
-}
+void writeErrorOutput(std::string_view text) { console::consoleWrite(console::ConsoleStream::Error, text); }
 
 }  // namespace orrery::shell::builtins

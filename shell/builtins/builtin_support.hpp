@@ -64,8 +64,7 @@ std::optional<std::string> takeTrailingText(Arguments& arguments);
 /// Raises "ORRERY:host:notNumeric" unless the value is numeric, logical or char.
 void requireNumeric(const value::ValueArray& argument, std::string_view function);
 
-/// Writes UTF-8 text to standard output or standard error and flushes it, so
-/// that the two streams interleave in the order things happened.
+/// Writes UTF-8 text to the console's output or error stream.
 void writeOutput(std::string_view text);
 void writeErrorOutput(std::string_view text);
 

@@ -9,7 +9,6 @@
 #include <orrery/value/value_array.hpp>
 
 #include <cstddef>
-#include <iosfwd>
 #include <map>
 #include <memory>
 #include <string>
@@ -26,8 +25,8 @@ inline constexpr std::size_t kMaxCallDepth = 128;
 /// (except::InternalError and other exceptions) pass through unchanged.
 class Interpreter {
 public:
-    /// Results of statements without a semicolon are displayed on `out`.
-    explicit Interpreter(std::ostream& out);
+    /// Results of statements without a semicolon are displayed on the console.
+    Interpreter();
     ~Interpreter();
     Interpreter(const Interpreter&) = delete;
     Interpreter& operator=(const Interpreter&) = delete;
@@ -112,7 +111,6 @@ private:
     // display
     void show(std::string_view name, const value::ValueArray& v);
 
-    std::ostream& out_;
     Workspace base_;
     Workspace* current_;
     std::map<std::string, UserFunction, std::less<>> functions_;

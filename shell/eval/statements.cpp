@@ -9,12 +9,12 @@
 #include "shell/values/elements.hpp"
 #include "shell/values/operators.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
 #include <orrery/text/text.hpp>
 
 #include <optional>
-#include <ostream>
 
 namespace orrery::shell::eval {
 
@@ -22,7 +22,7 @@ using lang::StmtKind;
 using value::ClassId;
 using value::ValueArray;
 
-Interpreter::Interpreter(std::ostream& out) : out_(out), current_(&base_) { registerExceptionClass(); }
+Interpreter::Interpreter() : current_(&base_) { registerExceptionClass(); }
 Interpreter::~Interpreter() = default;
 
 void Interpreter::run(const lang::Program& program, const std::u16string& file, const std::u16string& frameName) {
@@ -162,6 +162,8 @@ void Interpreter::execCommand(const lang::Stmt& stmt) {
     }
 }
 
-void Interpreter::show(std::string_view name, const ValueArray& v) { display(out_, name, v); }
+void Interpreter::show(std::string_view name, const ValueArray& v) {
+    console::consoleWrite(console::ConsoleStream::Output, displayText(name, v));
+}
 
 }  // namespace orrery::shell::eval

@@ -4,10 +4,11 @@
 #include "shell/lang/parser.hpp"
 #include "shell/startup/session.hpp"
 
+#include <orrery/console/console_sink.hpp>
+
 #include <readline.h>
 
 #include <cstdlib>
-#include <iostream>
 #include <memory>
 #include <string>
 
@@ -71,8 +72,7 @@ void runPrompt(eval::Interpreter& interpreter) {
         startup::runSource(interpreter, pending, u"<prompt>", u"");
         pending.clear();
     }
-    std::cout << "\n";
-    std::cout.flush();
+    console::consoleWrite(console::ConsoleStream::Output, "\n");
 }
 
 }  // namespace orrery::shell::prompt

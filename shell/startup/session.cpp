@@ -5,12 +5,12 @@
 #include "shell/lang/parser.hpp"
 #include "shell/startup/startup_messages.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <sstream>
 
 namespace orrery::shell::startup {
@@ -18,22 +18,17 @@ namespace {
 
 void reportError(const except::QException& error) {
     eval::recordLastError(error);
-    std::cout.flush();
-    std::cerr << eval::uncaughtErrorText(error);
-    std::cerr.flush();
+    console::consoleWrite(console::ConsoleStream::Error, eval::uncaughtErrorText(error));
 }
 
 void reportInternalError(std::string_view what) {
-    std::cout.flush();
-    std::cerr << "Internal error: " << what << "\n";
-    std::cerr.flush();
+    console::consoleWrite(console::ConsoleStream::Error, "Internal error: " + std::string(what) + "\n");
 }
 
 void runProgram(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
                 const std::u16string& frameName) {
     const lang::Program program = lang::parse(source, sourceName);
     interpreter.run(program, sourceName, frameName);
-    std::cout.flush();
 }
 
 }  // namespace

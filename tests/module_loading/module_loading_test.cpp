@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <string>
+#include <thread>
 
 using namespace orrery;
 
@@ -76,9 +77,12 @@ TEST_F(LoadedModule, ResetBuiltinClearsTheLastPrintedIdentifier) {
 }
 
 TEST_F(LoadedModule, TerminatingWithoutAContextOnlyClearsTheFunctions) {
-    warning::utSetWarningManagerContextPresent(false);
-    entry<EntryPoint>("LxInitialize_diagnostic")();
-    entry<EntryPoint>("LxTerminate_diagnostic")();
-    EXPECT_EQ(warning::utGetWarningManagerContext(), nullptr);
-    warning::utSetWarningManagerContextPresent(true);
+    // A new thread has no virtual machine, and so no warning manager context.
+    std::thread([this] {
+        ASSERT_EQ(warning::utGetWarningManagerContext(), nullptr);
+        entry<EntryPoint>("LxInitialize_diagnostic")();
+        entry<EntryPoint>("LxTerminate_diagnostic")();
+        EXPECT_EQ(warning::utGetWarningLogFactoryFcn(), nullptr);
+        EXPECT_EQ(warning::utGetWarningLogDestroyFcn(), nullptr);
+    }).join();
 }

@@ -10,6 +10,7 @@
 #include "tests/support/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
+#include <orrery/console/console_capture.hpp>
 #include <orrery/interp/call_stack.hpp>
 #include <orrery/interp/function_table.hpp>
 #include <orrery/ocos/class_info.hpp>
@@ -18,7 +19,6 @@
 #include <orrery/ocos/prop_template.hpp>
 #include <orrery/ocos/registry.hpp>
 
-#include <sstream>
 
 using namespace orrery;
 using orrery::testing::userErrorOf;
@@ -103,12 +103,12 @@ protected:
     }
     // Runs the source as the script "script.orr" and returns what it displayed.
     std::string run(std::string_view source) {
-        output_.str("");
+        console_.clear();
         interpreter_.run(shell::lang::parse(source, u"script.orr"), u"script.orr", u"script");
-        return output_.str();
+        return console_.output();
     }
-    std::ostringstream output_;
-    shell::eval::Interpreter interpreter_{output_};
+    console::ConsoleCapture console_;
+    shell::eval::Interpreter interpreter_;
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 // errors become the last error.
 #include "shell/startup/session.hpp"
 
+#include <orrery/console/console_capture.hpp>
 #include <orrery/except/host_messages.hpp>
 #include <orrery/except/internal_error.hpp>
 #include <orrery/except/qexception.hpp>
@@ -29,9 +30,9 @@ TEST(TopLevel, ReportsEachKindOfFailureAndGoesOn) {
     for (const auto& [name, body, outcome, status, lastIdentifier] : cases) {
         SCOPED_TRACE(name);
         except::QException::LastError::Set("before", u"", std::nullopt);
-        ::testing::internal::CaptureStderr();
+        const console::ConsoleCapture console;
         EXPECT_EQ(shell::startup::runAtTopLevel(body), outcome);
-        const std::string printed = ::testing::internal::GetCapturedStderr();
+        const std::string printed = console.error();
         EXPECT_EQ(shell::startup::exitStatus(outcome), status);
         EXPECT_EQ(except::QException::LastError::Get().identifier, lastIdentifier);
         if (outcome == RunOutcome::InternalFault) {

@@ -2,14 +2,16 @@
 #include <orrery/except/qexception.hpp>
 #include <orrery/except/qexception_envelope.hpp>
 #include <orrery/interp/call_stack.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/text/text.hpp>
 
 namespace orrery::except {
 namespace {
 
-QException::LastError::Record& lastError() {
-    static QException::LastError::Record record;
-    return record;
+// The current machine's last-error record, or null without a machine.
+QException::LastError::Record* lastError() noexcept {
+    interp::VirtualMachine* machine = interp::currentLocalVirtualMachine();
+    return machine != nullptr ? &machine->lastError() : nullptr;
 }
 
 // The message as UTF-8 for what(); a message that is not valid UTF-16 still
@@ -36,11 +38,14 @@ QException::QException(QExceptionEnvelope&& envelope)
 
 QException::~QException() = default;
 
-QException::LastError::Record QException::LastError::Get() { return lastError(); }
+QException::LastError::Record QException::LastError::Get() {
+    const Record* record = lastError();
+    return record != nullptr ? *record : Record{};
+}
 
 void QException::LastError::Set(std::string identifier, std::u16string message,
                                 std::optional<value::ValueArray> stack) {
-    lastError() = Record{std::move(identifier), std::move(message), std::move(stack)};
+    if (Record* record = lastError()) *record = Record{std::move(identifier), std::move(message), std::move(stack)};
 }
 
 QExceptionEnvelope::QExceptionEnvelope(std::string identifier, std::u16string message,

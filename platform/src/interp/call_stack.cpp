@@ -1,39 +1,53 @@
-// The call stack kept by the host and its query as a stack structure.
+// The call stack of the current virtual machine and its query as a stack structure.
 #include <orrery/interp/call_stack.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 
 namespace orrery::interp {
 namespace {
-std::vector<StackEntry>& frames() {
-    static std::vector<StackEntry> stack;  // outermost first
-    return stack;
+
+// The current machine's stack, or null without a machine.
+CallStack* currentCallStack() noexcept {
+    VirtualMachine* machine = currentLocalVirtualMachine();
+    return machine != nullptr ? &machine->callStack() : nullptr;
 }
+
 }  // namespace
 
-FrameGuard::FrameGuard(StackEntry entry) { frames().push_back(std::move(entry)); }
-FrameGuard::~FrameGuard() { frames().pop_back(); }
-
-void setCurrentLine(std::uint32_t line) {
-    if (!frames().empty()) frames().back().line = line;
+FrameGuard::FrameGuard(StackEntry entry) : stack_(currentCallStack()) {
+    if (stack_ != nullptr) stack_->push_back(std::move(entry));
 }
 
-std::vector<StackEntry> currentFrames() { return {frames().rbegin(), frames().rend()}; }
+FrameGuard::~FrameGuard() {
+    if (stack_ != nullptr) stack_->pop_back();
+}
+
+void setCurrentLine(std::uint32_t line) {
+    CallStack* stack = currentCallStack();
+    if (stack != nullptr && !stack->empty()) stack->back().line = line;
+}
+
+std::vector<StackEntry> currentFrames() {
+    const CallStack* stack = currentCallStack();
+    if (stack == nullptr) return {};
+    return {stack->rbegin(), stack->rend()};
+}
 
 value::ValueArray currentStack(std::size_t skip) {
-    if (frames().size() <= skip) {
+    const CallStack* stack = currentCallStack();
+    if (stack == nullptr || stack->size() <= skip) {
         // Outside any function the stack is always the same empty array: share one.
         static const auto empty = value::ValueArray::stackStructure(0);
         return empty;
     }
-    const auto innermostFirst = currentFrames();
-    const std::size_t count = skip < innermostFirst.size() ? innermostFirst.size() - skip : 0;
-    auto stack = value::ValueArray::stackStructure(count);
+    const std::size_t count = stack->size() - skip;
+    auto result = value::ValueArray::stackStructure(count);
     for (std::size_t i = 0; i < count; ++i) {
-        const StackEntry& entry = innermostFirst[i + skip];
-        stack.setField(i, "file", value::ValueArray::chars(entry.file));
-        stack.setField(i, "name", value::ValueArray::chars(entry.name));
-        stack.setField(i, "line", value::ValueArray::scalar(entry.line));
+        const StackEntry& entry = (*stack)[count - 1 - i];  // innermost first, skipping the innermost `skip`
+        result.setField(i, "file", value::ValueArray::chars(entry.file));
+        result.setField(i, "name", value::ValueArray::chars(entry.name));
+        result.setField(i, "line", value::ValueArray::scalar(entry.line));
     }
-    return stack;
+    return result;
 }
 
 }  // namespace orrery::interp

@@ -1,62 +1,51 @@
 // The stack of warning-output filters and its RAII registration.
 #include "warning/warning_filter_stack.hpp"
 
-#include <orrery/warning/warning_operation.hpp>
-
-#include <memory>
-#include <mutex>
-#include <vector>
+#include <orrery/interp/virtual_machine.hpp>
 
 namespace orrery::warning {
-namespace {
 
-struct Registration {
-    std::size_t id;
-    std::shared_ptr<const WarningFilterFunction> filter;
-};
-
-struct FilterStack {
-    std::mutex mutex;
-    std::vector<Registration> registrations;  // oldest first
-    std::size_t nextId = 1;
-};
-
-// Never destroyed: objects destroyed at exit (such as a warning manager's log)
-// may still pop their filters after every function-local static is gone.
-FilterStack& filterStack() {
-    static auto* const stack = new FilterStack();
-    return *stack;
-}
-
-}  // namespace
-
-WarningFilter::WarningFilter(WarningFilterFunction filter) {
+std::size_t WarningFilterStack::push(WarningFilterFunction filter) {
     auto shared = std::make_shared<const WarningFilterFunction>(std::move(filter));
-    FilterStack& stack = filterStack();
-    const std::lock_guard lock(stack.mutex);
-    id_ = stack.nextId++;
-    stack.registrations.push_back(Registration{id_, std::move(shared)});
+    const std::lock_guard lock(mutex_);
+    const std::size_t id = nextId_++;
+    registrations_.push_back(Registration{id, std::move(shared)});
+    return id;
 }
 
-WarningFilter::~WarningFilter() {
-    FilterStack& stack = filterStack();
-    const std::lock_guard lock(stack.mutex);
-    std::erase_if(stack.registrations, [this](const Registration& entry) { return entry.id == id_; });
+void WarningFilterStack::remove(std::size_t id) {
+    const std::lock_guard lock(mutex_);
+    std::erase_if(registrations_, [id](const Registration& entry) { return entry.id == id; });
 }
 
-bool runWarningFilters(std::u16string& text) {
+bool WarningFilterStack::run(std::u16string& text) const {
     // A copy, so that a filter may push or pop filters (or warn) while it runs.
     std::vector<Registration> snapshot;
     {
-        FilterStack& stack = filterStack();
-        const std::lock_guard lock(stack.mutex);
-        snapshot = stack.registrations;
+        const std::lock_guard lock(mutex_);
+        snapshot = registrations_;
     }
     for (auto entry = snapshot.rbegin(); entry != snapshot.rend(); ++entry) {
         const WarningFilterFunction& filter = *entry->filter;
         if (filter && !filter(text)) return false;
     }
     return true;
+}
+
+bool runWarningFilters(std::u16string& text) {
+    const interp::VirtualMachine* machine = interp::currentLocalVirtualMachine();
+    return machine == nullptr || machine->warningFilters()->run(text);
+}
+
+WarningFilter::WarningFilter(WarningFilterFunction filter) {
+    if (const interp::VirtualMachine* machine = interp::currentLocalVirtualMachine()) {
+        id_ = machine->warningFilters()->push(std::move(filter));
+        stack_ = machine->warningFilters();
+    }
+}
+
+WarningFilter::~WarningFilter() {
+    if (const auto stack = stack_.lock()) stack->remove(id_);
 }
 
 }  // namespace orrery::warning

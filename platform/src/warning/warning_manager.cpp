@@ -1,28 +1,19 @@
-// The warning manager's context and its operations.
+// The warning manager's operations on the context of a virtual machine.
+#include "warning/warning_manager_context.hpp"
+
+#include <orrery/console/console_sink.hpp>
+#include <orrery/except/internal_error.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/text/text.hpp>
-#include <orrery/warning/warning_manager.hpp>
 
 #include <cstdarg>
 #include <cstdio>
-#include <memory>
-#include <vector>
+#include <string>
 
 namespace orrery::warning {
-
-struct WarningManagerContext {
-    std::vector<std::pair<std::string, int>> states;  // insertion order
-    int defaultState = kWarningOn;
-    bool modes[3] = {false, true, false};
-    std::u16string lastMessage;
-    std::string lastIdentifier;
-    std::string lastPrintedIdentifier;
-    utWarningLog* log = nullptr;
-    std::function<void()> callback;
-
-    ~WarningManagerContext();
-};
-
 namespace {
+
+constexpr std::string_view kComponent = "warning manager";
 
 struct Functions {
     utWarningLogFactoryFcn factory = nullptr;
@@ -34,43 +25,45 @@ Functions& functions() {
     return f;
 }
 
-std::unique_ptr<WarningManagerContext>& currentContext() {
-    static auto context = std::make_unique<WarningManagerContext>();
-    return context;
-}
-
 bool isAll(std::string_view identifier) { return text::equalsIgnoreCaseAscii(identifier, "all"); }
 
 bool isIdentifierStart(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool isIdentifierPart(char c) { return isIdentifierStart(c) || (c >= '0' && c <= '9') || c == '_' || c == '-'; }
 
-}  // namespace
-
-WarningManagerContext::~WarningManagerContext() {
-    if (log != nullptr && functions().destroy != nullptr) functions().destroy(log);
+WarningState checkedState(WarningState state) {
+    if (state < WarningState::Off || state > WarningState::Error)
+        except::internalError(kComponent, std::to_string(static_cast<int>(state)) + " is not a warning state");
+    return state;
 }
+
+// The mode's place in the context's switches.
+std::size_t modeIndex(WarningMode mode) {
+    if (mode < WarningMode::Debug || mode > WarningMode::Verbose)
+        except::internalError(kComponent, std::to_string(static_cast<int>(mode)) + " is not a warning mode");
+    return static_cast<std::size_t>(mode);
+}
+
+}  // namespace
 
 utWarningLog::utWarningLog() = default;
 utWarningLog::utWarningLog(const utWarningLog&) = default;
 utWarningLog::~utWarningLog() = default;
 utWarningLog& utWarningLog::operator=(const utWarningLog&) = default;
 
-WarningManagerContext* utGetWarningManagerContext() { return currentContext().get(); }
-
-void utSetWarningManagerContextPresent(bool present) {
-    auto& context = currentContext();
-    if (present && !context) context = std::make_unique<WarningManagerContext>();
-    if (!present) context.reset();
+WarningManagerContext* utGetWarningManagerContext() {
+    const interp::VirtualMachine* machine = interp::currentLocalVirtualMachine();
+    return machine != nullptr ? machine->warningManagerContext() : nullptr;
 }
 
-int utGetWarningStatus(WarningManagerContext* context, std::string_view identifier) {
+WarningState utGetWarningStatus(WarningManagerContext* context, std::string_view identifier) {
     if (isAll(identifier)) return context->defaultState;
     for (const auto& [id, state] : context->states)
         if (id == identifier) return state;
     return context->defaultState;
 }
 
-void utSetWarningStatus(WarningManagerContext* context, std::string_view identifier, int state) {
+void utSetWarningStatus(WarningManagerContext* context, std::string_view identifier, WarningState state) {
+    checkedState(state);
     if (isAll(identifier)) {
         context->defaultState = state;
         return;
@@ -84,19 +77,17 @@ void utSetWarningStatus(WarningManagerContext* context, std::string_view identif
 }
 
 void utIterateOverWarningStatuses(WarningManagerContext* context,
-                                  const std::function<void(const std::string&, int)>& visit) {
+                                  const std::function<void(const std::string&, WarningState)>& visit) {
     for (const auto& [id, state] : context->states) visit(id, state);
 }
 
 std::size_t utCountWarningsInWarningManager(WarningManagerContext* context) { return context->states.size(); }
 
-void utSetWarningMode(WarningManagerContext* context, int mode, bool on) {
-    if (mode >= kModeDebug && mode <= kModeVerbose) context->modes[mode] = on;
+void utSetWarningMode(WarningManagerContext* context, WarningMode mode, bool on) {
+    context->modes[modeIndex(mode)] = on;
 }
 
-bool utIsWarningModeOn(WarningManagerContext* context, int mode) {
-    return mode >= kModeDebug && mode <= kModeVerbose && context->modes[mode];
-}
+bool utIsWarningModeOn(WarningManagerContext* context, WarningMode mode) { return context->modes[modeIndex(mode)]; }
 
 void utGetLastWarningMsg(WarningManagerContext* context, std::u16string& message, std::string& identifier) {
     message = context->lastMessage;
@@ -114,8 +105,15 @@ void utSetLastPrintedWarningId(WarningManagerContext* context, std::string_view 
     context->lastPrintedIdentifier = identifier;
 }
 
-utWarningLog* utGetWarningLog(WarningManagerContext* context) { return context->log; }
-void utSetWarningLog(WarningManagerContext* context, utWarningLog* log) { context->log = log; }
+utWarningLog* utGetWarningLog(WarningManagerContext* context) { return context->log.get(); }
+
+void utSetWarningLog(WarningManagerContext* context, utWarningLog* log) {
+    if (log == context->log.get()) return;
+    // The slot holds the new log before the old one is destroyed, so that the
+    // old log's destructor sees a consistent context.
+    const OwnedWarningLog previous = std::exchange(context->log, OwnedWarningLog(log, {functions().destroy}));
+}
+
 void utSetWarningLogFactoryFcn(utWarningLogFactoryFcn factory) { functions().factory = factory; }
 void utSetWarningLogDestroyFcn(utWarningLogDestroyFcn destroy) { functions().destroy = destroy; }
 utWarningLogFactoryFcn utGetWarningLogFactoryFcn() { return functions().factory; }
@@ -146,9 +144,15 @@ bool utIsValidMessageIdentifier(std::string_view identifier) {
 void utPrintf(const char* format, ...) {
     std::va_list arguments;
     va_start(arguments, format);
-    std::vfprintf(stdout, format, arguments);
+    std::va_list again;
+    va_copy(again, arguments);
+    const int length = std::vsnprintf(nullptr, 0, format, arguments);
     va_end(arguments);
-    std::fflush(stdout);
+    std::string text(static_cast<std::size_t>(length > 0 ? length : 0), '\0');
+    if (length > 0) std::vsnprintf(text.data(), text.size() + 1, format, again);
+    va_end(again);
+    if (length < 0) except::internalError(kComponent, "utPrintf cannot render its format");
+    console::consoleWrite(console::ConsoleStream::Output, text);
 }
 
 }  // namespace orrery::warning

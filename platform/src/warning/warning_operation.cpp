@@ -3,6 +3,7 @@
 #include "warning/warning_filter_stack.hpp"
 #include "warning/warning_print.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/qexception_envelope.hpp>
 #include <orrery/warning/warning_operation.hpp>
 
@@ -11,8 +12,8 @@ namespace {
 
 // The identifier's own state, else the "all" default. An empty identifier has no
 // state of its own, whatever was stored under "".
-int applicableState(WarningManagerContext* context, std::string_view identifier) {
-    if (context == nullptr) return kWarningOn;
+WarningState applicableState(WarningManagerContext* context, std::string_view identifier) {
+    if (context == nullptr) return WarningState::On;
     return utGetWarningStatus(context, identifier.empty() ? std::string_view("all") : identifier);
 }
 
@@ -20,14 +21,14 @@ int applicableState(WarningManagerContext* context, std::string_view identifier)
 
 bool issueWarningWithoutLogging(WarningManagerContext* context, std::string_view identifier,
                                 std::u16string_view message) {
-    const int state = applicableState(context, identifier);
-    if (state == kWarningOff) return true;
-    if (state == kWarningError)
+    const WarningState state = applicableState(context, identifier);
+    if (state == WarningState::Off) return true;
+    if (state == WarningState::Error)
         except::QExceptionEnvelope(std::string(identifier), std::u16string(message), std::nullopt, 1).DoThrow();
 
     std::u16string text(message);
     if (!runWarningFilters(text)) return false;
-    writeWarningOutput(renderWarning(context, identifier, text));
+    console::consoleWrite(console::ConsoleStream::Error, renderWarning(context, identifier, text));
     if (context != nullptr) utSetLastPrintedWarningId(context, identifier);
     return false;
 }

@@ -1,25 +1,17 @@
-// Renders printed warnings (message, location, hint) and writes them to the
-// warning output, standard error unless redirected.
+// Renders printed warnings: the message, the caller's location and the hint.
 #include "warning/warning_print.hpp"
 
 #include <orrery/catalogue/catalogue.hpp>
 #include <orrery/interp/call_stack.hpp>
-#include <orrery/warning/warning_operation.hpp>
 
 #include <unicode/ustring.h>
 
 #include <array>
-#include <iostream>
 
 namespace orrery::warning {
 namespace {
 
 constexpr UChar32 kReplacement = 0xFFFD;
-
-std::ostream*& outputStream() {
-    static std::ostream* output = &std::cerr;
-    return output;
-}
 
 // UTF-16 to UTF-8 with U+FFFD for each unpaired surrogate: a warning is printed
 // even when its text is damaged.
@@ -65,21 +57,9 @@ std::string hintLine(std::string_view identifier) {
 std::string renderWarning(WarningManagerContext* context, std::string_view identifier, std::u16string_view message) {
     std::string text = "Warning: " + toUtf8Replacing(message) + "\n";
     if (context == nullptr) return text;
-    if (utIsWarningModeOn(context, kModeBacktrace)) text += locationLine();
-    if (utIsWarningModeOn(context, kModeVerbose) && !identifier.empty()) text += hintLine(identifier);
+    if (utIsWarningModeOn(context, WarningMode::Backtrace)) text += locationLine();
+    if (utIsWarningModeOn(context, WarningMode::Verbose) && !identifier.empty()) text += hintLine(identifier);
     return text;
-}
-
-void writeWarningOutput(std::string_view text) {
-    std::ostream& output = *outputStream();
-    output << text;
-    output.flush();
-}
-
-std::ostream* setWarningOutput(std::ostream* output) {
-    std::ostream* previous = outputStream();
-    outputStream() = output != nullptr ? output : &std::cerr;
-    return previous;
 }
 
 }  // namespace orrery::warning

@@ -1,4 +1,4 @@
-// Rendering and printing of a warning that the warning operation lets through.
+// Rendering of a warning that the warning operation lets through.
 #pragma once
 
 #include <orrery/warning/warning_manager.hpp>
@@ -12,9 +12,5 @@ namespace orrery::warning {
 /// location (backtrace mode) and the hint to turn it off (verbose mode), each
 /// ending in a line break. Invalid text is rendered with U+FFFD.
 std::string renderWarning(WarningManagerContext* context, std::string_view identifier, std::u16string_view message);
-
-/// Writes rendered warning text to the warning output and flushes it; the one
-/// place where warnings reach the console.
-void writeWarningOutput(std::string_view text);
 
 }  // namespace orrery::warning

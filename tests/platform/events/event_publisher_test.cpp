@@ -1,13 +1,11 @@
-// Tests of the event publisher, its connections and the current virtual machine.
+// Tests of the event publisher and its connections.
 #include <orrery/events/event_publisher.hpp>
-#include <orrery/events/virtual_machine.hpp>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <optional>
 #include <stdexcept>
-#include <thread>
 #include <vector>
 
 using namespace orrery::events;
@@ -76,21 +74,4 @@ TEST(EventPublisher, ListenersMayChangeTheListDuringAPublish) {
     EXPECT_TRUE(heard.empty());
     publisher.publish(NumberEvent(2));
     EXPECT_EQ(heard, (std::vector<int>{902}));
-}
-
-TEST(VirtualMachine, ScopesNestAndRestoreThePreviousMachine) {
-    EXPECT_EQ(currentLocalVirtualMachine(), nullptr);
-    {
-        VirtualMachineScope outer;
-        {
-            VirtualMachineScope inner;
-            EXPECT_EQ(currentLocalVirtualMachine(), &inner.machine());
-            EXPECT_NE(inner.machine().eventPublisher(), outer.machine().eventPublisher());
-        }
-        EXPECT_EQ(currentLocalVirtualMachine(), &outer.machine());
-        VirtualMachine* seenElsewhere = &outer.machine();
-        std::thread([&] { seenElsewhere = currentLocalVirtualMachine(); }).join();
-        EXPECT_EQ(seenElsewhere, nullptr) << "the current machine is per thread";
-    }
-    EXPECT_EQ(currentLocalVirtualMachine(), nullptr);
 }

@@ -2,13 +2,15 @@
 // printed warnings captured in a string, and a log double.
 #pragma once
 
+#include <orrery/console/console_capture.hpp>
+#include <orrery/interp/virtual_machine.hpp>
 #include <orrery/warning/warning_log.hpp>
 #include <orrery/warning/warning_manager.hpp>
 #include <orrery/warning/warning_operation.hpp>
 
 #include <gmock/gmock.h>
 
-#include <sstream>
+#include <optional>
 
 namespace orrery::warning::testing {
 
@@ -26,39 +28,41 @@ public:
     void closeLog(const std::u16string&) override { ADD_FAILURE() << "unexpected log operation"; }
 };
 
-/// Gives each test a new context with the initial states and modes, and collects
-/// printed warnings instead of writing them to standard error.
+/// Gives each test a virtual machine of its own, so a new context with the initial
+/// states and modes, and collects printed warnings instead of writing them to
+/// standard error. Logs set by the tests are not destroyed by their context.
 class WarningTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        freshContext();
-        previousOutput_ = setWarningOutput(&output_);
-    }
+    void SetUp() override { freshContext(); }
     void TearDown() override {
-        setWarningOutput(previousOutput_);
-        utSetWarningLog(context, nullptr);
+        console_.reset();
+        machine_.reset();
     }
 
-    /// Replaces the context by a new one (no log is destroyed with the old one).
+    /// Replaces the machine, and so the context, by a new one.
     void freshContext() {
         utSetWarningLogDestroyFcn(nullptr);
-        utSetWarningManagerContextPresent(false);
-        utSetWarningManagerContextPresent(true);
+        console_.reset();
+        machine_.reset();
+        machine_.emplace();
+        console_.emplace();
         context = utGetWarningManagerContext();
     }
 
-    /// What has been printed so far; clears the capture.
+    /// What has been printed on the current machine's console so far; clears
+    /// the capture. Warnings go to the error stream only.
     std::string takePrinted() {
-        std::string printed = output_.str();
-        output_.str({});
+        EXPECT_EQ(console_->output(), "");
+        std::string printed = console_->error();
+        console_->clear();
         return printed;
     }
 
     WarningManagerContext* context = nullptr;
 
 private:
-    std::ostringstream output_;
-    std::ostream* previousOutput_ = nullptr;
+    std::optional<interp::VirtualMachineScope> machine_;
+    std::optional<console::ConsoleCapture> console_;
 };
 
 }  // namespace orrery::warning::testing

@@ -2,6 +2,8 @@
 // warning, the log slot and the callback.
 #include "warning_fixture.hpp"
 
+#include <orrery/except/internal_error.hpp>
+
 using namespace orrery::warning;
 using orrery::warning::testing::MockLog;
 using WarningManager = orrery::warning::testing::WarningTest;
@@ -17,20 +19,20 @@ TEST(WarningIdentifier, FollowsTheIdentifierRule) {
 
 TEST_F(WarningManager, StatesFallBackToTheDefaultAndKeepInsertionOrder) {
     // A new context has every warning on, and of the modes only backtrace.
-    EXPECT_EQ(utGetWarningStatus(context, "x:y"), kWarningOn);
-    EXPECT_FALSE(utIsWarningModeOn(context, kModeDebug));
-    EXPECT_TRUE(utIsWarningModeOn(context, kModeBacktrace));
-    EXPECT_FALSE(utIsWarningModeOn(context, kModeVerbose));
-    utSetWarningStatus(context, "z:z", kWarningOff);
-    utSetWarningStatus(context, "a:a", kWarningOff);
-    utSetWarningStatus(context, "a:a", kWarningError);
-    utSetWarningStatus(context, "All", kWarningOff);
-    utSetWarningStatus(context, "A:A", kWarningOn);  // identifiers keep their case
-    EXPECT_EQ(utGetWarningStatus(context, "x:y"), kWarningOff);
-    EXPECT_EQ(utGetWarningStatus(context, "a:a"), kWarningError);
-    EXPECT_EQ(utGetWarningStatus(context, "A:A"), kWarningOn);
+    EXPECT_EQ(utGetWarningStatus(context, "x:y"), WarningState::On);
+    EXPECT_FALSE(utIsWarningModeOn(context, WarningMode::Debug));
+    EXPECT_TRUE(utIsWarningModeOn(context, WarningMode::Backtrace));
+    EXPECT_FALSE(utIsWarningModeOn(context, WarningMode::Verbose));
+    utSetWarningStatus(context, "z:z", WarningState::Off);
+    utSetWarningStatus(context, "a:a", WarningState::Off);
+    utSetWarningStatus(context, "a:a", WarningState::Error);
+    utSetWarningStatus(context, "All", WarningState::Off);
+    utSetWarningStatus(context, "A:A", WarningState::On);  // identifiers keep their case
+    EXPECT_EQ(utGetWarningStatus(context, "x:y"), WarningState::Off);
+    EXPECT_EQ(utGetWarningStatus(context, "a:a"), WarningState::Error);
+    EXPECT_EQ(utGetWarningStatus(context, "A:A"), WarningState::On);
     std::vector<std::string> order;
-    utIterateOverWarningStatuses(context, [&](const std::string& id, int) { order.push_back(id); });
+    utIterateOverWarningStatuses(context, [&](const std::string& id, WarningState) { order.push_back(id); });
     EXPECT_EQ(order, (std::vector<std::string>{"z:z", "a:a", "A:A"}));
     EXPECT_EQ(utCountWarningsInWarningManager(context), 3u);
 }
@@ -56,18 +58,77 @@ TEST_F(WarningManager, KeepsTheLastWarningAndCallsTheRegisteredCallbackUntilRemo
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(WarningManager, ContextDestroysItsLogThroughTheDestroyFunctionOnly) {
-    static std::vector<utWarningLog*> destroyed;
-    utSetWarningLogDestroyFcn([](utWarningLog* log) { destroyed.push_back(log); delete log; });
-    utWarningLog* log = new MockLog();
-    utSetWarningLog(context, log);
-    utSetWarningManagerContextPresent(false);
-    EXPECT_EQ(destroyed, std::vector<utWarningLog*>{log});
-    // Without a destroy function the context leaves its log alone.
-    MockLog owned;
-    freshContext();
-    utSetWarningLog(context, &owned);
-    freshContext();
-    EXPECT_EQ(destroyed.size(), 1u);
+TEST_F(WarningManager, RefusesStatesAndModesOutsideTheirEnumerations) {
+    using orrery::except::InternalError;
+    for (const int value : {-1, 3}) {
+        SCOPED_TRACE(value);
+        EXPECT_THROW(utSetWarningStatus(context, "a:b", static_cast<WarningState>(value)), InternalError);
+        EXPECT_THROW(utSetWarningMode(context, static_cast<WarningMode>(value), true), InternalError);
+        EXPECT_THROW(utIsWarningModeOn(context, static_cast<WarningMode>(value)), InternalError);
+    }
+    EXPECT_EQ(utCountWarningsInWarningManager(context), 0u) << "a refused state is not stored";
+    utSetWarningStatus(context, "a:b", WarningState::Error);
+    utSetWarningMode(context, WarningMode::Verbose, true);
+    EXPECT_EQ(utGetWarningStatus(context, "a:b"), WarningState::Error);
+    EXPECT_TRUE(utIsWarningModeOn(context, WarningMode::Verbose));
 }
 
+namespace {
+
+// Destroy functions that record which of them destroyed which log.
+std::vector<std::pair<int, utWarningLog*>> destroyed;
+void destroyFirst(utWarningLog* log) {
+    destroyed.emplace_back(1, log);
+    delete log;
+}
+void destroySecond(utWarningLog* log) {
+    destroyed.emplace_back(2, log);
+    delete log;
+}
+
+// A log that registers a warning filter, as the module's log does.
+class FilteringLog : public MockLog {
+public:
+    orrery::warning::WarningFilter filter{[](std::u16string&) { return false; }};
+};
+
+}  // namespace
+
+TEST_F(WarningManager, LogSlotDestroysItsLogThroughTheDestroyFunctionOfItsTime) {
+    destroyed.clear();
+    utSetWarningLogDestroyFcn(&destroyFirst);
+    utWarningLog* const first = new MockLog();
+    utSetWarningLog(context, first);
+    utSetWarningLogDestroyFcn(&destroySecond);
+    utSetWarningLog(context, first);
+    EXPECT_TRUE(destroyed.empty()) << "setting the same log again keeps it";
+    utWarningLog* const second = new MockLog();
+    utSetWarningLog(context, second);
+    EXPECT_EQ(utGetWarningLog(context), second);
+    utSetWarningLogDestroyFcn(nullptr);
+    utSetWarningLog(context, nullptr);
+    EXPECT_EQ(utGetWarningLog(context), nullptr);
+    using Destroyed = std::vector<std::pair<int, utWarningLog*>>;
+    EXPECT_EQ(destroyed, (Destroyed{{1, first}, {2, second}}));
+
+    // A log set while no destroy function is installed stays its owner's.
+    MockLog owned;
+    utSetWarningLog(context, &owned);
+    freshContext();
+    EXPECT_EQ(destroyed.size(), 2u);
+}
+
+TEST_F(WarningManager, MachineDestroysItsLogWhileItsFiltersStillExist) {
+    destroyed.clear();
+    utSetWarningLogDestroyFcn(&destroyFirst);
+    utWarningLog* log = nullptr;
+    {
+        const orrery::interp::VirtualMachineScope inner;
+        log = new FilteringLog();
+        utSetWarningLog(utGetWarningManagerContext(), log);
+    }  // the log's filter leaves the inner machine while this test's machine is current
+    utSetWarningLogDestroyFcn(nullptr);
+    EXPECT_EQ(destroyed, (std::vector<std::pair<int, utWarningLog*>>{{1, log}}));
+    EXPECT_FALSE(issueWarningWithoutLogging(context, "a:b", u"shown"));
+    EXPECT_EQ(takePrinted(), "Warning: shown\n") << "the inner machine's filter never applied here";
+}

@@ -5,6 +5,9 @@
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/interp/call_stack.hpp>
+#include <orrery/interp/virtual_machine.hpp>
+
+#include <memory>
 
 using namespace orrery;
 using namespace orrery::warning;
@@ -14,16 +17,16 @@ constexpr const char* kUnchanged = "earlier:printed";
 
 TEST_F(WarningOperation, StateDecidesBetweenPrintingDisablingAndRaising) {
     // holder: the identifier given an own state, or none. outcome: 'p'rinted, 'd'isabled or 'e'rror.
-    struct Case { const char* label; std::string identifier; const char* holder; int own, all; char outcome; };
+    struct Case { const char* label; std::string identifier; const char* holder; WarningState own, all; char outcome; };
     const Case cases[] = {
-        {"default off", "a:b", nullptr, 0, kWarningOff, 'd'},
-        {"own on beats default off", "a:b", "a:b", kWarningOn, kWarningOff, 'p'},
-        {"own off beats default on", "a:b", "a:b", kWarningOff, kWarningOn, 'd'},
-        {"another identifier's state does not apply", "a:c", "a:b", kWarningOff, kWarningOn, 'p'},
-        {"empty identifier ignores a state stored under empty", "", "", kWarningOff, kWarningOn, 'p'},
-        {"own error", "a:b", "a:b", kWarningError, kWarningOn, 'e'},
-        {"own on escapes default error", "a:b", "a:b", kWarningOn, kWarningError, 'p'},
-        {"empty identifier takes default error", "", nullptr, 0, kWarningError, 'e'},
+        {"default off", "a:b", nullptr, WarningState::On, WarningState::Off, 'd'},
+        {"own on beats default off", "a:b", "a:b", WarningState::On, WarningState::Off, 'p'},
+        {"own off beats default on", "a:b", "a:b", WarningState::Off, WarningState::On, 'd'},
+        {"another identifier's state does not apply", "a:c", "a:b", WarningState::Off, WarningState::On, 'p'},
+        {"empty identifier ignores a state stored under empty", "", "", WarningState::Off, WarningState::On, 'p'},
+        {"own error", "a:b", "a:b", WarningState::Error, WarningState::On, 'e'},
+        {"own on escapes default error", "a:b", "a:b", WarningState::On, WarningState::Error, 'p'},
+        {"empty identifier takes default error", "", nullptr, WarningState::On, WarningState::Error, 'e'},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);
@@ -80,6 +83,24 @@ TEST_F(WarningOperation, FiltersRunNewestFirstUntilOneRefusesAndLastAsLongAsThei
     EXPECT_EQ(order, "non");
 }
 
+TEST_F(WarningOperation, FiltersBelongToTheMachineThatRegisteredThem) {
+    const auto refuse = [](std::u16string&) { return false; };
+    auto silencer = std::make_unique<WarningFilter>(refuse);
+    {
+        const interp::VirtualMachineScope other;
+        const console::ConsoleCapture otherConsole;
+        EXPECT_FALSE(issueWarningWithoutLogging(utGetWarningManagerContext(), "a:b", u"elsewhere"));
+        EXPECT_EQ(otherConsole.error(), "Warning: elsewhere\n") << "another machine's filter does not apply";
+        const WarningFilter otherSilencer(refuse);
+        silencer.reset();  // leaves its own machine, not the current one
+        issueWarningWithoutLogging(utGetWarningManagerContext(), "a:b", u"still silenced");
+        EXPECT_EQ(otherConsole.error(), "Warning: elsewhere\n");
+    }
+    EXPECT_EQ(takePrinted(), "") << "each machine prints on its own console";
+    issueWarningWithoutLogging(context, "a:b", u"shown");
+    EXPECT_EQ(takePrinted(), "Warning: shown\n");
+}
+
 TEST_F(WarningOperation, ModesAddLocationAndHintLines) {
     const std::string location = "> In fname (line 12)\n";
     const std::string hint = "(Type \"warning off a:b\" to suppress this warning.)\n";
@@ -100,8 +121,8 @@ TEST_F(WarningOperation, ModesAddLocationAndHintLines) {
     interp::setCurrentLine(12);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.expected);
-        utSetWarningMode(context, kModeBacktrace, c.backtrace);
-        utSetWarningMode(context, kModeVerbose, c.verbose);
+        utSetWarningMode(context, WarningMode::Backtrace, c.backtrace);
+        utSetWarningMode(context, WarningMode::Verbose, c.verbose);
         EXPECT_FALSE(issueWarningWithoutLogging(context, c.identifier, c.message));
         EXPECT_EQ(takePrinted(), c.expected);
     }
@@ -117,21 +138,21 @@ TEST_F(WarningOperation, CatalogueWarningReachesTheLogWithTheDisabledAnswerUnles
         "colons, each starting with a letter.";
     issueCatalogueWarning(context, content);  // without a log it is only printed
     EXPECT_EQ(takePrinted(), "Warning: " + text + "\n");
-    for (const int state : {kWarningOn, kWarningOff}) {
-        SCOPED_TRACE(state);
+    for (const WarningState state : {WarningState::On, WarningState::Off}) {
+        SCOPED_TRACE(static_cast<int>(state));
         ::testing::StrictMock<warning::testing::MockLog> log;
         EXPECT_CALL(log, warn(context, std::optional<std::string>(),
                               AllOf(::testing::Field(&catalogue::MessageContent::identifier, content.identifier),
                                     ::testing::Field(&catalogue::MessageContent::arguments, content.arguments)),
-                              state == kWarningOff));
+                              state == WarningState::Off));
         utSetWarningLog(context, &log);
         utSetWarningStatus(context, content.identifier, state);
         issueCatalogueWarning(context, content);
-        EXPECT_EQ(takePrinted(), state == kWarningOn ? "Warning: " + text + "\n" : "");
+        EXPECT_EQ(takePrinted(), state == WarningState::On ? "Warning: " + text + "\n" : "");
         utSetWarningLog(context, nullptr);
     }
     ::testing::StrictMock<warning::testing::MockLog> log;  // receives nothing
     utSetWarningLog(context, &log);
-    utSetWarningStatus(context, content.identifier, kWarningError);
+    utSetWarningStatus(context, content.identifier, WarningState::Error);
     EXPECT_QEXCEPTION(issueCatalogueWarning(context, content), content.identifier, text.c_str());
 }

@@ -9,8 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <iostream>
-#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -60,21 +58,5 @@ inline std::vector<double> numbers(const ValueArray& v) {
 }
 
 inline bool truth(const ValueArray& v) { return v.is(ClassId::Logical) && v.isScalar() && v.logicalAt(0); }
-
-/// Collects what is written to a stream (std::cout, std::cerr) while it lives.
-class CapturedOutput {
-public:
-    explicit CapturedOutput(std::ostream& stream) : stream_(stream), saved_(stream.rdbuf(text_.rdbuf())) {}
-    ~CapturedOutput() { stream_.rdbuf(saved_); }
-    CapturedOutput(const CapturedOutput&) = delete;
-    CapturedOutput& operator=(const CapturedOutput&) = delete;
-
-    std::string text() const { return text_.str(); }
-
-private:
-    std::ostream& stream_;
-    std::ostringstream text_;
-    std::streambuf* saved_;
-};
 
 }  // namespace builtin_test

@@ -2,11 +2,10 @@
 #include "tests/shell/builtins/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
-#include <orrery/warning/warning_operation.hpp>
+#include <orrery/console/console_capture.hpp>
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 using namespace builtin_test;
 namespace fs = std::filesystem;
@@ -20,12 +19,8 @@ protected:
         root_ = fs::temp_directory_path() / (std::string("orrery_builtins_") + test->name());
         fs::remove_all(root_);
         fs::create_directories(root_);
-        previousWarningOutput_ = orrery::warning::setWarningOutput(&warnings_);
     }
-    void TearDown() override {
-        orrery::warning::setWarningOutput(previousWarningOutput_);
-        fs::remove_all(root_);
-    }
+    void TearDown() override { fs::remove_all(root_); }
 
     ValueArray path(const std::string& name) const { return ValueArray::charsFromUtf8((root_ / name).string()); }
     void write(const std::string& name, const std::string& bytes) const {
@@ -37,8 +32,7 @@ protected:
     }
 
     fs::path root_;
-    std::ostringstream warnings_;
-    std::ostream* previousWarningOutput_ = nullptr;
+    orrery::console::ConsoleCapture console_;
 };
 
 }  // namespace
@@ -77,7 +71,7 @@ TEST_F(FileBuiltins, DeleteRemovesMatchingFilesAndWarnsOfMissingOnes) {
     EXPECT_FALSE(fs::exists(root_ / "b.tmp"));
     EXPECT_TRUE(fs::exists(root_ / "c.txt"));
     call("delete", 0, {path("gone.txt")});
-    EXPECT_NE(warnings_.str().find("gone.txt' was not found."), std::string::npos) << warnings_.str();
+    EXPECT_NE(console_.error().find("gone.txt' was not found."), std::string::npos) << console_.error();
     EXPECT_MSGID(call("delete", 0, {path("")}), "ORRERY:host:file:isFolder");
 }
 
@@ -88,9 +82,9 @@ TEST_F(FileBuiltins, MkdirMakesParentsAndReportsAnExistingFolder) {
     const auto again = call("mkdir", 3, {deep});
     EXPECT_TRUE(truth(again[0]));
     EXPECT_EQ(again[2].textUtf8(), "ORRERY:host:file:folderExists");
-    EXPECT_TRUE(warnings_.str().empty());
+    EXPECT_TRUE(console_.error().empty());
     call("mkdir", 0, {deep});
-    EXPECT_NE(warnings_.str().find("already exists"), std::string::npos);
+    EXPECT_NE(console_.error().find("already exists"), std::string::npos);
 
     write("file", "");
     const auto failed = call("mkdir", 2, {path("file/sub")});

@@ -3,6 +3,8 @@
 #include "tests/shell/builtins/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
+#include <orrery/console/console_capture.hpp>
+
 using namespace builtin_test;
 
 TEST(StructBuiltin, BuildsTheLanguagesForms) {
@@ -47,9 +49,9 @@ TEST(PropertiesBuiltin, ListsAClassesPropertiesInOrder) {
     ASSERT_EQ(names.dims(), (Dims{2, 1}));
     EXPECT_EQ(names.cellAt(0).textUtf8(), "Identifier") << "in the order of declaration";
     EXPECT_TRUE(truth(call1("isequal", {call1("fieldnames", {message}), names})));
-    const CapturedOutput out(std::cout);
+    const orrery::console::ConsoleCapture console;
     call("properties", 0, {message});
-    EXPECT_EQ(out.text(), "Properties for class message:\n\n    Identifier\n    Arguments\n\n");
+    EXPECT_EQ(console.output(), "Properties for class message:\n\n    Identifier\n    Arguments\n\n");
 }
 
 TEST(PropertiesBuiltin, NeedsAnObjectOrAClassName) {

@@ -2,17 +2,19 @@
 #include "tests/shell/builtins/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
+#include <orrery/console/console_capture.hpp>
+
 using namespace builtin_test;
 
 TEST(FprintfAndDisp, WriteToTheChosenStream) {
-    const CapturedOutput out(std::cout), err(std::cerr);
+    const orrery::console::ConsoleCapture console;
     call("fprintf", 0, {txt(u"%d-"), row({1, 2})});
     call("fprintf", 0, {num(1), txt(u"[%s]\\n"), txt(u"out")});
     call("fprintf", 0, {num(2), str(u"err %d\\n"), num(7)});
     const auto count = call("fprintf", 1, {txt(u"\u00e9!")});
     call("disp", 0, {str(u"there")});
-    EXPECT_EQ(out.text(), "1-2-[out]\n\xc3\xa9!there\n");
-    EXPECT_EQ(err.text(), "err 7\n");
+    EXPECT_EQ(console.output(), "1-2-[out]\n\xc3\xa9!there\n");
+    EXPECT_EQ(console.error(), "err 7\n");
     EXPECT_EQ(numbers(count[0]), std::vector<double>{3}) << "the count is in bytes written";
     EXPECT_MSGID(call("fprintf", 0, {num(3), txt(u"x")}), "ORRERY:host:badFileIdentifier");
     EXPECT_MSGID(call("fprintf", 0, {num(1)}), "ORRERY:notEnoughInputs");

@@ -2,6 +2,8 @@
 #include "tests/shell/builtins/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
+#include <orrery/console/console_capture.hpp>
+
 #include <cmath>
 
 using namespace builtin_test;
@@ -34,8 +36,8 @@ TEST(TimerBuiltins, TocMeasuresFromItsTic) {
     const double elapsed = call1("toc", {id}).realAt(0);
     EXPECT_GE(elapsed, 0);
     EXPECT_LT(elapsed, 60);
-    const CapturedOutput out(std::cout);
+    const orrery::console::ConsoleCapture console;
     call("toc", 0, {});
-    EXPECT_EQ(out.text().rfind("Elapsed time is ", 0), 0u);
+    EXPECT_EQ(console.output().rfind("Elapsed time is ", 0), 0u);
     EXPECT_MSGID(call1("toc", {num(1)}), "ORRERY:invalidInput");
 }

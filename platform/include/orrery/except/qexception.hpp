@@ -31,7 +31,8 @@ public:
     /// The message as UTF-8.
     const char* what() const noexcept override { return text_.c_str(); }
 
-    /// The last error the interpreter recorded.
+    /// The last error the interpreter recorded, kept by the current virtual
+    /// machine. Without a machine Get answers an empty record and Set does nothing.
     class ORRERY_API LastError {
     public:
         struct Record {

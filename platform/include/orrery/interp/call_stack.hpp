@@ -18,23 +18,32 @@ struct StackEntry {
     std::uint32_t line = 0;
 };
 
-/// Pushes a frame on construction and pops it on destruction.
+/// A virtual machine's frames, outermost first.
+using CallStack = std::vector<StackEntry>;
+
+/// Pushes a frame on the current machine's call stack on construction and pops
+/// it from that same stack on destruction; does nothing without a machine. The
+/// guard must end before the machine it pushed on.
 class ORRERY_API FrameGuard {
 public:
     explicit FrameGuard(StackEntry entry);
     ~FrameGuard();
     FrameGuard(const FrameGuard&) = delete;
     FrameGuard& operator=(const FrameGuard&) = delete;
+
+private:
+    CallStack* stack_;
 };
 
-/// Sets the line of the innermost frame (no effect on an empty stack).
+/// Sets the line of the current machine's innermost frame (no effect on an
+/// empty stack or without a machine).
 ORRERY_API void setCurrentLine(std::uint32_t line);
 
-/// The frames, innermost first.
+/// The current machine's frames, innermost first (none without a machine).
 ORRERY_API std::vector<StackEntry> currentFrames();
 
-/// The stack query: an N-by-1 struct (file, name, line), innermost first,
-/// leaving out the `skip` innermost frames.
+/// The stack query on the current machine: an N-by-1 struct (file, name, line),
+/// innermost first, leaving out the `skip` innermost frames.
 ORRERY_API value::ValueArray currentStack(std::size_t skip = 0);
 
 }  // namespace orrery::interp

@@ -11,31 +11,32 @@
 
 namespace orrery::warning {
 
-/// States of a warning, used as indices into the state names "off", "on", "error".
-enum WarningState : int { kWarningOff = 0, kWarningOn = 1, kWarningError = 2 };
+/// States of a warning; their values index the state names "off", "on", "error".
+enum class WarningState { Off = 0, On = 1, Error = 2 };
 /// Display and debugging switches of the manager.
-enum WarningMode : int { kModeDebug = 0, kModeBacktrace = 1, kModeVerbose = 2 };
+enum class WarningMode { Debug = 0, Backtrace = 1, Verbose = 2 };
 
 using utWarningLogFactoryFcn = utWarningLog* (*)();
 using utWarningLogDestroyFcn = void (*)(utWarningLog*);
 
-/// The current context, or null when the host has none (see utSetWarningManagerContext).
+/// The current virtual machine's context, or null when there is no machine.
 ORRERY_API WarningManagerContext* utGetWarningManagerContext();
-/// Host control: creates the process's context (true) or destroys it (false).
-ORRERY_API void utSetWarningManagerContextPresent(bool present);
 
 /// The identifier's own state, else the "all" default.
-ORRERY_API int utGetWarningStatus(WarningManagerContext* context, std::string_view identifier);
-/// Sets an identifier's state; "all" (any case) sets the default.
-ORRERY_API void utSetWarningStatus(WarningManagerContext* context, std::string_view identifier, int state);
+ORRERY_API WarningState utGetWarningStatus(WarningManagerContext* context, std::string_view identifier);
+/// Sets an identifier's state; "all" (any case) sets the default. A value that is
+/// not a WarningState is an internal error.
+ORRERY_API void utSetWarningStatus(WarningManagerContext* context, std::string_view identifier, WarningState state);
 /// Calls visit(identifier, state) for every identifier with a state, in insertion order.
 ORRERY_API void utIterateOverWarningStatuses(WarningManagerContext* context,
-                                             const std::function<void(const std::string&, int)>& visit);
+                                             const std::function<void(const std::string&, WarningState)>& visit);
 /// The number of identifiers with a state of their own.
 ORRERY_API std::size_t utCountWarningsInWarningManager(WarningManagerContext* context);
 
-ORRERY_API void utSetWarningMode(WarningManagerContext* context, int mode, bool on);
-ORRERY_API bool utIsWarningModeOn(WarningManagerContext* context, int mode);
+/// Switches a mode on or off. A value that is not a WarningMode is an internal error.
+ORRERY_API void utSetWarningMode(WarningManagerContext* context, WarningMode mode, bool on);
+/// Whether a mode is on. A value that is not a WarningMode is an internal error.
+ORRERY_API bool utIsWarningModeOn(WarningManagerContext* context, WarningMode mode);
 
 /// The last warning's message and identifier.
 ORRERY_API void utGetLastWarningMsg(WarningManagerContext* context, std::u16string& message, std::string& identifier);
@@ -44,11 +45,17 @@ ORRERY_API void utSetLastWarningMsg(WarningManagerContext* context, std::string_
 ORRERY_API std::string utGetLastPrintedWarningId(WarningManagerContext* context);
 ORRERY_API void utSetLastPrintedWarningId(WarningManagerContext* context, std::string_view identifier);
 
-/// The context's log (not owned by the caller), or null.
+/// The context's log (owned by the context), or null.
 ORRERY_API utWarningLog* utGetWarningLog(WarningManagerContext* context);
-/// Installs a log; the context destroys it through the destroy function when it goes.
+/// Installs a log (null: none). The context owns it: it destroys the log through
+/// the destroy function installed at this moment when the log is replaced, set
+/// to null, or the context goes; a log set while no destroy function is installed
+/// is never destroyed by the context. Setting the log that is already set keeps it.
 ORRERY_API void utSetWarningLog(WarningManagerContext* context, utWarningLog* log);
+/// The process-wide function that makes a log (null: none).
 ORRERY_API void utSetWarningLogFactoryFcn(utWarningLogFactoryFcn factory);
+/// The process-wide function that destroys a log (null: none); logs already set
+/// keep the one installed when they were set.
 ORRERY_API void utSetWarningLogDestroyFcn(utWarningLogDestroyFcn destroy);
 ORRERY_API utWarningLogFactoryFcn utGetWarningLogFactoryFcn();
 ORRERY_API utWarningLogDestroyFcn utGetWarningLogDestroyFcn();
@@ -62,7 +69,7 @@ ORRERY_API void utCallRegisteredWarningCallback(WarningManagerContext* context);
 /// each starts with a letter and continues with letters, digits, "_" or "-".
 ORRERY_API bool utIsValidMessageIdentifier(std::string_view identifier);
 
-/// Console output (standard output), printf-style.
+/// Writes printf-style formatted text to the console's output stream.
 ORRERY_API void utPrintf(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 }  // namespace orrery::warning

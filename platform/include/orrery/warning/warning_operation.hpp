@@ -1,5 +1,5 @@
 // The interpreter's warning operations: issuing without logging, catalogue
-// warnings, the stack of warning-output filters and the output destination.
+// warnings and the stack of warning-output filters.
 #pragma once
 
 #include <orrery/catalogue/message_content.hpp>
@@ -8,7 +8,7 @@
 
 #include <cstddef>
 #include <functional>
-#include <iosfwd>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -19,7 +19,7 @@ namespace orrery::warning {
 /// - "off" prints nothing and answers true (disabled);
 /// - "error" raises the user error (QException) with the identifier and message;
 /// - "on" passes a copy of the text through the filter stack and, unless a filter
-///   suppresses it, prints "Warning: <message>" (UTF-8) to the warning output,
+///   suppresses it, prints "Warning: <message>" (UTF-8) to the console's error stream,
 ///   followed in backtrace mode by "> In <name> (line <n>)" for the innermost
 ///   frame of the call stack (when there is one) and in verbose mode by a hint
 ///   naming the command that turns the warning off (when it has an identifier);
@@ -41,11 +41,16 @@ ORRERY_API void issueCatalogueWarning(WarningManagerContext* context, const cata
 /// suppresses printing.
 using WarningFilterFunction = std::function<bool(std::u16string& text)>;
 
-/// Registers a filter for as long as the object lives. Filters run from the most
+class WarningFilterStack;
+
+/// Registers a filter with the current virtual machine for as long as the object
+/// lives (without a machine it registers nowhere). Filters run from the most
 /// recently pushed to the oldest, each seeing the text as the previous one left
 /// it; the first that answers false ends the run and the warning is not printed.
-/// Destruction removes exactly this object's filter, in whatever order filters
-/// are destroyed. An empty function lets every warning through.
+/// Destruction removes exactly this object's filter from the machine it was
+/// registered with, in whatever order filters are destroyed and whichever machine
+/// is current then (nothing, once that machine is gone). An empty function lets
+/// every warning through.
 class ORRERY_API WarningFilter {
 public:
     explicit WarningFilter(WarningFilterFunction filter);
@@ -54,11 +59,8 @@ public:
     WarningFilter& operator=(const WarningFilter&) = delete;
 
 private:
-    std::size_t id_;
+    std::weak_ptr<WarningFilterStack> stack_;
+    std::size_t id_ = 0;
 };
-
-/// Sends printed warnings to output (null: standard error, the default) and
-/// returns the previous destination. The stream must outlive its use.
-ORRERY_API std::ostream* setWarningOutput(std::ostream* output);
 
 }  // namespace orrery::warning

@@ -1,0 +1,36 @@
+// The warning manager context: what one interpreter instance's warning manager keeps.
+#pragma once
+
+#include <orrery/warning/warning_manager.hpp>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orrery::warning {
+
+/// Destroys a log through the destroy function installed when it was set; a log
+/// set while none was installed is left alone.
+struct WarningLogDeleter {
+    utWarningLogDestroyFcn destroy = nullptr;
+    void operator()(utWarningLog* log) const {
+        if (destroy != nullptr) destroy(log);
+    }
+};
+
+using OwnedWarningLog = std::unique_ptr<utWarningLog, WarningLogDeleter>;
+
+struct WarningManagerContext {
+    std::vector<std::pair<std::string, WarningState>> states;  // insertion order
+    WarningState defaultState = WarningState::On;
+    bool modes[3] = {false, true, false};  // indexed by WarningMode
+    std::u16string lastMessage;
+    std::string lastIdentifier;
+    std::string lastPrintedIdentifier;
+    std::function<void()> callback;
+    OwnedWarningLog log;  // last, so that the log goes while the rest is still whole
+};
+
+}  // namespace orrery::warning
