@@ -82,7 +82,23 @@ TEST(Lexer, RefusesMalformedText) {
         SCOPED_TRACE(c.source);
         EXPECT_MSGID(tokenize(c.source, u"test"), c.expected);
     }
-    // The text names the source, line and column.
+    // The text names the source, line and column, and shows a whole UTF-8 character
+    // or else the offending byte.
     EXPECT_MSGID_TEXT(tokenize("x = \xC3\xA9", u"demo.orr"), "ORRERY:shell:badCharacter",
                       "Syntax error in demo.orr at line 1, column 5: the character '\xC3\xA9' is not allowed here.");
+    const std::pair<const char*, const char*> shown[] = {
+        {"x = \xF0\x9F\x98\x80", "the character '\xF0\x9F\x98\x80' is"},
+        {"x = \xC3", "the character byte 0xC3 is"},
+        {"x = \xED\xA0\x80", "the character byte 0xED is"},
+        {"x = \x01", "the character byte 0x01 is"},
+    };
+    for (const auto& [source, text] : shown) {
+        SCOPED_TRACE(source);
+        try {
+            tokenize(source, u"demo.orr");
+            ADD_FAILURE() << "nothing raised";
+        } catch (const orrery::except::IMsgIDException& failure) {
+            EXPECT_NE(std::string(failure.what()).find(text), std::string::npos) << failure.what();
+        }
+    }
 }
