@@ -2,12 +2,13 @@
 #include "shell/lang/lexer_state.hpp"
 #include "shell/lang/syntax_messages.hpp"
 
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/identifiers.hpp>
+#include <orrery/text/number_text.hpp>
 #include <orrery/text/text.hpp>
 
 #include <cstdio>
-#include <cstdlib>
 
 namespace orrery::shell::lang::detail {
 namespace {
@@ -59,7 +60,9 @@ void Lexer::lexNumber() {
         except::throwMessage(BadNumber(sourceName_, start.line, start.column, text::asciiToUtf16(spelling)));
     Token& token = emit(TokenKind::Number, start);
     token.text = spelling;
-    token.number = std::strtod(spelling.c_str(), nullptr);
+    const auto number = text::parseDouble(spelling);  // the scan above admits decimal numbers only
+    if (!number) except::internalError("lexer", "the number \"" + spelling + "\" does not read");
+    token.number = *number;
     advance(length);
 }
 

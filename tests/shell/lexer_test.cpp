@@ -2,11 +2,14 @@
 // comments and continuation, numbers, and its syntax errors.
 #include "shell/lang/lexer.hpp"
 
+#include "tests/support/decimal_comma_locale.hpp"
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/text/text.hpp>
 
+#include <limits>
 #include <string>
+#include <vector>
 
 using namespace orrery;
 using shell::lang::Token;
@@ -101,4 +104,13 @@ TEST(Lexer, RefusesMalformedText) {
             EXPECT_NE(std::string(failure.what()).find(text), std::string::npos) << failure.what();
         }
     }
+}
+
+TEST(Lexer, ReadsNumbersTheSameUnderADecimalCommaLocale) {
+    ORRERY_USE_DECIMAL_COMMA_LOCALE();
+    const auto tokens = tokenize("x = [1.5 .25 2e-1 1e400]", u"test");
+    std::vector<double> numbers;
+    for (const Token& token : tokens)
+        if (token.kind == TokenKind::Number) numbers.push_back(token.number);
+    EXPECT_EQ(numbers, (std::vector<double>{1.5, 0.25, 0.2, std::numeric_limits<double>::infinity()}));
 }
