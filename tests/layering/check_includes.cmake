@@ -2,6 +2,7 @@
 # shell/ climbs out with "..", the module (diagnostic/) includes nothing of the
 # shell, the platform's sources or the tests, and the shell nothing of the module,
 # the platform's sources or the tests. Both reach the platform as <orrery/...>.
+cmake_minimum_required(VERSION 3.25)
 set(forbidden_diagnostic "shell/" "platform/" "tests/")
 set(forbidden_shell "diagnostic/" "platform/" "tests/")
 

@@ -1,6 +1,7 @@
 # Builds TARGET in BUILD_DIR and passes only when the build fails because HEADER
 # cannot be found: a translation unit that reaches across a layer must not
 # compile, and must fail for that reason rather than another.
+cmake_minimum_required(VERSION 3.25)
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${BUILD_DIR} --target ${TARGET}
                 OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status)
 if(status EQUAL 0)
