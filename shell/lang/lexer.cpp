@@ -47,7 +47,6 @@ constexpr std::array kKeywords{
     Spelling{"otherwise", TokenKind::Otherwise},
 };
 
-
 // Keywords after which a new statement begins on the same line.
 bool opensStatement(TokenKind kind) {
     return kind == TokenKind::Else || kind == TokenKind::Try || kind == TokenKind::Otherwise;

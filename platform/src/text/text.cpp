@@ -1,4 +1,4 @@
-// UTF conversions and case-insensitive comparison on ICU.
+// UTF conversions, ASCII tests, UTF-8 decoding and case-insensitive comparison on ICU.
 #include <orrery/except/host_messages.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>

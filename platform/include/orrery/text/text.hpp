@@ -1,4 +1,5 @@
-// Text conversions between UTF-8, UTF-16 and ASCII, and case-insensitive comparison.
+// Text encodings: conversions between UTF-8, UTF-16 and ASCII, ASCII tests, UTF-8
+// decoding, and case-insensitive comparison.
 #pragma once
 
 #include <orrery/export.hpp>
