@@ -4,6 +4,8 @@
 #include "shell/display/body.hpp"
 #include "shell/display/number_format.hpp"
 
+#include <orrery/text/text.hpp>
+
 namespace orrery::shell {
 namespace {
 
@@ -17,7 +19,7 @@ bool isCharRow(const ValueArray& value) { return value.is(ClassId::Char) && valu
 std::string stringElement(const ValueArray& strings, std::size_t i, bool quoted) {
     const auto& element = strings.stringAt(i);
     if (!element) return "<missing>";
-    const std::string text = render::toUtf8Lossy(*element);
+    const std::string text = text::utf16ToUtf8Lossy(*element);
     return quoted ? "\"" + text + "\"" : text;
 }
 
@@ -26,7 +28,7 @@ std::string oneLineText(const ValueArray& value) {
     const bool emptyShownBySize = value.isEmpty() && !value.is(ClassId::Struct);
     if (emptyShownBySize) return value.dims().text() + " empty " + value.className();
     if (isNumberLike(value) && value.isScalar()) return render::formatAll(value)[0];
-    if (isCharRow(value)) return "'" + render::toUtf8Lossy(value.chars()) + "'";
+    if (isCharRow(value)) return "'" + text::utf16ToUtf8Lossy(value.chars()) + "'";
     if (value.is(ClassId::String) && value.isScalar()) return stringElement(value, 0, true);
     return {};
 }

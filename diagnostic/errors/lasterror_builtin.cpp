@@ -6,11 +6,11 @@
 #include "diagnostic/module/diagnostic_ids.hpp"
 
 #include <orrery/except/argument_errors.hpp>
-#include <orrery/except/host_messages.hpp>
 #include <orrery/except/qexception.hpp>
 #include <orrery/except/throw_message.hpp>
+#include <orrery/text/text.hpp>
 
-#include <array>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -39,21 +39,15 @@ ValueArray lastErrorStructure() {
     return structure;
 }
 
-constexpr std::array<char16_t, 128> kLowerCase = [] {
-    std::array<char16_t, 128> table{};
-    for (char16_t c = 0; c < 128; ++c) table[c] = (c >= u'A' && c <= u'Z') ? static_cast<char16_t>(c + 32) : c;
-    return table;
-}();
-
 // Compares with "reset" ignoring ASCII case. Deliberately, a unit above 127 fails
 // the text layer's way only when reached: within the first five units and after
 // every unit before it has matched.
 bool isResetKeyword(std::u16string_view text) {
-    constexpr std::u16string_view keyword = u"reset";
+    constexpr std::string_view keyword = "reset";
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (i >= keyword.size()) return false;
-        if (text[i] > 127) except::throwMessage(except::host::InvalidCharacter());
-        if (kLowerCase[text[i]] != keyword[i]) return false;
+        const std::string unit = orrery::text::utf16ToAscii(text.substr(i, 1));
+        if (!orrery::text::equalsIgnoreCaseAscii(unit, keyword.substr(i, 1))) return false;
     }
     return text.size() == keyword.size();
 }

@@ -8,6 +8,7 @@
 #include <orrery/interp/function_table.hpp>
 #include <orrery/interp/sprintf.hpp>
 #include <orrery/ocos/message_object.hpp>
+#include <orrery/text/text.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
 #include <algorithm>
@@ -23,8 +24,8 @@ using value::ValueArray;
 // here, instead of converting to UTF-8, keeps a message with an unpaired
 // surrogate a message rather than a conversion failure.
 std::optional<std::string> asciiCandidate(std::u16string_view text) {
-    if (std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit > 127; })) return std::nullopt;
-    return std::string(text.begin(), text.end());
+    if (!text::isAscii(text)) return std::nullopt;
+    return text::utf16ToAscii(text);
 }
 
 // The language's isscalar, so that a class may answer for its own objects.

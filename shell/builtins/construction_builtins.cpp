@@ -7,10 +7,10 @@
 #include <orrery/except/argument_errors.hpp>
 #include <orrery/except/host_messages.hpp>
 #include <orrery/except/throw_message.hpp>
+#include <orrery/text/number_text.hpp>
 #include <orrery/text/text.hpp>
 
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 #include <numbers>
 
@@ -50,11 +50,7 @@ ValueArray filledFromArguments(std::string_view function, std::int32_t nrhs, con
 // A string element as a number: the whole text must read as one; else NaN.
 double parseNumber(const std::optional<std::u16string>& element) {
     if (!element) return std::numeric_limits<double>::quiet_NaN();
-    const std::string text = text::utf16ToUtf8(*element);
-    char* end = nullptr;
-    const double x = std::strtod(text.c_str(), &end);
-    while (end && *end == ' ') ++end;
-    return (end == text.c_str() || *end != '\0') ? std::numeric_limits<double>::quiet_NaN() : x;
+    return text::parseDouble(text::utf16ToUtf8(*element)).value_or(std::numeric_limits<double>::quiet_NaN());
 }
 
 [[noreturn]] void cannotConvert(const ValueArray& from, ClassId to) {

@@ -7,6 +7,7 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/class_info.hpp>
 #include <orrery/ocos/registry.hpp>
+#include <orrery/text/identifiers.hpp>
 #include <orrery/text/text.hpp>
 
 #include <algorithm>
@@ -19,18 +20,12 @@ namespace {
 
 // ---- struct ------------------------------------------------------------------
 
-bool isValidFieldName(std::string_view name) {
-    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    return !name.empty() && isLetter(name[0]) &&
-           std::all_of(name.begin(), name.end(), [&](char c) { return isLetter(c) || isDigit(c) || c == '_'; });
-}
-
 std::vector<std::string> fieldNamesOf(Arguments arguments) {
     std::vector<std::string> names;
     for (std::size_t k = 0; k < arguments.size(); k += 2) {
         std::string name = textArgumentUtf8(*arguments[k], "struct", k + 1);
-        if (!isValidFieldName(name)) except::throwMessage(messages::StructBadFieldName(text::utf8ToUtf16(name)));
+        if (!text::isIdentifier(name, text::IdentifierKind::Name))
+            except::throwMessage(messages::StructBadFieldName(text::utf8ToUtf16(name)));
         if (std::find(names.begin(), names.end(), name) != names.end())
             except::throwMessage(messages::StructDuplicateField(text::utf8ToUtf16(name)));
         names.push_back(std::move(name));

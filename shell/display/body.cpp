@@ -6,6 +6,8 @@
 #include "shell/display/object_display.hpp"
 #include "shell/display/summary.hpp"
 
+#include <orrery/text/text.hpp>
+
 #include <algorithm>
 
 namespace orrery::shell::render {
@@ -78,7 +80,7 @@ std::string charRows(const ValueArray& chars, bool quoted) {
     for (std::size_t r = 0; r < rows; ++r) {
         std::u16string row;
         for (std::size_t c = 0; c < columns; ++c) row += units[c * rows + r];
-        out += quoted ? "    '" + toUtf8Lossy(row) + "'\n" : toUtf8Lossy(row) + "\n";
+        out += quoted ? "    '" + text::utf16ToUtf8Lossy(row) + "'\n" : text::utf16ToUtf8Lossy(row) + "\n";
     }
     return out;
 }
@@ -87,7 +89,7 @@ std::string stringRows(const ValueArray& strings) {
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < strings.numel(); ++i) {
         const auto& element = strings.stringAt(i);
-        texts.push_back(element ? "\"" + toUtf8Lossy(*element) + "\"" : "<missing>");
+        texts.push_back(element ? "\"" + text::utf16ToUtf8Lossy(*element) + "\"" : "<missing>");
     }
     return pagedGrid(texts, strings.dims(), kStringStyle);
 }

@@ -1,7 +1,6 @@
 // Formatting of numbers for display, on std::to_chars.
 #include "shell/display/number_format.hpp"
 
-#include <orrery/text/text.hpp>
 
 #include <algorithm>
 #include <charconv>
@@ -75,21 +74,6 @@ std::vector<std::string> formatAll(const value::ValueArray& numbers) {
     texts.reserve(numbers.numel());
     for (std::size_t i = 0; i < numbers.numel(); ++i) texts.push_back(formatElement(numbers, i, layout));
     return texts;
-}
-
-std::string toUtf8Lossy(std::u16string_view text) {
-    std::u16string clean(text);
-    for (std::size_t i = 0; i < clean.size(); ++i) {
-        const char16_t unit = clean[i];
-        const bool high = unit >= 0xD800 && unit <= 0xDBFF;
-        const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
-        if (high && i + 1 < clean.size() && clean[i + 1] >= 0xDC00 && clean[i + 1] <= 0xDFFF) {
-            ++i;
-        } else if (high || low) {
-            clean[i] = u'\uFFFD';
-        }
-    }
-    return text::utf16ToUtf8(clean);
 }
 
 }  // namespace orrery::shell::render

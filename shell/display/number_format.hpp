@@ -28,8 +28,4 @@ std::string formatElement(const value::ValueArray& numbers, std::size_t i, Numbe
 /// Every element of the array, formatted in its chosen layout, column-major.
 std::vector<std::string> formatAll(const value::ValueArray& numbers);
 
-/// UTF-16 text as UTF-8; a unit that is not valid text becomes U+FFFD, so that
-/// display never fails on what a value holds.
-std::string toUtf8Lossy(std::u16string_view text);
-
 }  // namespace orrery::shell::render

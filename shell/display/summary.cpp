@@ -3,6 +3,8 @@
 
 #include "shell/display/number_format.hpp"
 
+#include <orrery/text/text.hpp>
+
 namespace orrery::shell::render {
 namespace {
 
@@ -26,14 +28,14 @@ std::string joinedRow(const ValueArray& value) {
 
 std::string quotedString(const ValueArray& value) {
     const auto& element = value.stringAt(0);
-    return element ? "\"" + toUtf8Lossy(*element) + "\"" : "<missing>";
+    return element ? "\"" + text::utf16ToUtf8Lossy(*element) + "\"" : "<missing>";
 }
 
 // The text of values that have one, or nothing for those shown by size and class.
 std::string inlineText(const ValueArray& value, bool& bracketed) {
     bracketed = false;
     if (value.is(ClassId::Char) && (value.isTextScalar() || value.dims() == value::Dims{0, 0}))
-        return "'" + toUtf8Lossy(value.chars()) + "'";
+        return "'" + text::utf16ToUtf8Lossy(value.chars()) + "'";
     if (value.is(ClassId::String) && value.isScalar()) return quotedString(value);
     if (isNumberLike(value) && value.isScalar()) {
         bracketed = true;

@@ -1,11 +1,11 @@
 // Conversion, recording and printing of user errors.
 #include "shell/eval/user_error.hpp"
 
-#include "shell/display/number_format.hpp"
 #include "shell/eval/eval_messages.hpp"
 
 #include <orrery/except/msg_id_exception.hpp>
 #include <orrery/interp/call_stack.hpp>
+#include <orrery/text/text.hpp>
 
 #include <new>
 
@@ -30,7 +30,7 @@ void recordLastError(const except::QException& error) {
 }
 
 std::string uncaughtErrorText(const except::QException& error) {
-    const std::string message = render::toUtf8Lossy(error.message());
+    const std::string message = text::utf16ToUtf8Lossy(error.message());
     if (error.functionName().empty()) return "Error: " + message + "\n";
     return "Error using " + error.functionName() + "\n" + message + "\n";
 }

@@ -3,8 +3,9 @@
 
 #include "shell/lang/lexer_state.hpp"
 
+#include <orrery/text/identifiers.hpp>
+
 #include <array>
-#include <cctype>
 #include <utility>
 
 namespace orrery::shell::lang {
@@ -45,10 +46,6 @@ constexpr std::array kKeywords{
     Spelling{"switch", TokenKind::Switch},   Spelling{"case", TokenKind::Case},
     Spelling{"otherwise", TokenKind::Otherwise},
 };
-
-bool isIdentifierStart(char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0; }
-bool isIdentifierPart(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
-bool isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 // Keywords after which a new statement begins on the same line.
 bool opensStatement(TokenKind kind) {
@@ -100,7 +97,7 @@ void Lexer::step() {
     const char c = peek();
     if (c == '\n') return lexNewline();
     if (isDigit(c) || (c == '.' && isDigit(peek(1)))) return lexNumber();
-    if (isIdentifierStart(c)) return lexIdentifier();
+    if (text::isIdentifierStart(c)) return lexIdentifier();
     if (c == '"') return lexQuoted('"', TokenKind::StringText);
     if (c == '\'') {
         if (isTransposeHere(spaceBefore_)) return push(TokenKind::Transpose, 1);
@@ -164,7 +161,7 @@ void Lexer::closeBracket(TokenKind kind) {
 
 void Lexer::lexIdentifier() {
     std::size_t length = 1;
-    while (isIdentifierPart(peek(length))) ++length;
+    while (isNamePart(peek(length))) ++length;
     const std::string_view word = src_.substr(pos_, length);
     for (const auto& keyword : kKeywords) {
         if (keyword.text == word) return push(keyword.kind, length);
@@ -190,7 +187,7 @@ bool Lexer::previousEndsValue() const {
 bool Lexer::startsElement() const {
     const char c = peek();
     const char next = peek(1);
-    if (isIdentifierPart(c) || c == '\'' || c == '"' || c == '(' || c == '[' || c == '{' || c == '@') return true;
+    if (isNamePart(c) || c == '\'' || c == '"' || c == '(' || c == '[' || c == '{' || c == '@') return true;
     if (c == '.' && isDigit(next)) return true;
     if (c == '~' || c == '!') return next != '=';
     if (c == '+' || c == '-') return next != ' ' && next != '\t' && next != '=' && next != '\n' && next != '\r';

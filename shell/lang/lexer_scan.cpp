@@ -2,19 +2,18 @@
 #include "shell/lang/lexer_state.hpp"
 #include "shell/lang/syntax_messages.hpp"
 
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
+#include <orrery/text/identifiers.hpp>
+#include <orrery/text/number_text.hpp>
 #include <orrery/text/text.hpp>
 
-#include <cctype>
 #include <cstdio>
-#include <cstdlib>
 
 namespace orrery::shell::lang::detail {
 namespace {
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
-bool isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
-bool isWordPart(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
 
 // Operators that may follow a number directly after its digits ("1.*x", "2.^k").
 bool startsDotOperator(char c) { return c == '*' || c == '/' || c == '\\' || c == '^' || c == '\''; }
@@ -25,20 +24,6 @@ bool lineIs(std::string_view line, std::string_view marker) {
     if (first == std::string_view::npos) return false;
     const auto last = line.find_last_not_of(" \t\r");
     return line.substr(first, last - first + 1) == marker;
-}
-
-// The UTF-8 sequence of the character at the start of rest, or nothing when
-// the bytes there are not valid UTF-8.
-std::string utf8Sequence(std::string_view rest) {
-    const auto lead = static_cast<unsigned char>(rest[0]);
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
-    if (length == 0 || rest.size() < length) return {};
-    try {
-        text::utf8ToUtf16(rest.substr(0, length));
-        return std::string(rest.substr(0, length));
-    } catch (const std::exception&) {
-        return {};
-    }
 }
 
 constexpr std::string_view kOperatorChars = "+-*/\\^<>=&|~!:.@";
@@ -69,13 +54,15 @@ void Lexer::lexNumber() {
         }
     }
     std::size_t end = length;
-    while (isWordPart(peek(end)) || (peek(end) == '.' && isDigit(peek(end + 1)))) ++end;
+    while (isNamePart(peek(end)) || (peek(end) == '.' && isDigit(peek(end + 1)))) ++end;
     const std::string spelling(src_.substr(pos_, end));
     if (end != length)
         except::throwMessage(BadNumber(sourceName_, start.line, start.column, text::asciiToUtf16(spelling)));
     Token& token = emit(TokenKind::Number, start);
     token.text = spelling;
-    token.number = std::strtod(spelling.c_str(), nullptr);
+    const auto number = text::parseDouble(spelling);  // the scan above admits decimal numbers only
+    if (!number) except::internalError("lexer", "the number \"" + spelling + "\" does not read");
+    token.number = *number;
     advance(length);
 }
 
@@ -141,7 +128,7 @@ bool Lexer::commandSyntaxFollows() const {
     const char after = peek(i + length);
     if (c == '=' && length == 1) return false;  // an assignment
     if (after == '\0' || after == '\n' || isBlank(after)) return false;  // a binary operator between blanks
-    return c == '-' && std::isalpha(static_cast<unsigned char>(after)) != 0;  // an option word ("-all")
+    return c == '-' && text::isIdentifierStart(after);  // an option word ("-all")
 }
 
 void Lexer::lexCommandWords() {
@@ -183,8 +170,8 @@ void Lexer::badCharacter() const {
     std::string shown;
     if (byte >= 0x21 && byte < 0x7F) {
         shown = "'" + std::string(1, static_cast<char>(byte)) + "'";
-    } else if (const std::string sequence = utf8Sequence(src_.substr(pos_)); !sequence.empty()) {
-        shown = "'" + sequence + "'";
+    } else if (const auto character = byte >= 0x80 ? text::decodeUtf8(src_.substr(pos_)) : std::nullopt) {
+        shown = "'" + std::string(src_.substr(pos_, character->length)) + "'";
     } else {
         char buffer[16];
         std::snprintf(buffer, sizeof buffer, "byte 0x%02X", byte);

@@ -4,11 +4,17 @@
 
 #include "shell/lang/token.hpp"
 
+#include <orrery/text/identifiers.hpp>
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orrery::shell::lang::detail {
+
+// Character classes of the lexer's two source files.
+inline bool isDigit(char c) { return c >= '0' && c <= '9'; }
+inline bool isNamePart(char c) { return text::isIdentifierPart(c, text::IdentifierKind::Name); }
 
 class Lexer {
 public:

@@ -2,11 +2,14 @@
 // comments and continuation, numbers, and its syntax errors.
 #include "shell/lang/lexer.hpp"
 
+#include "tests/support/decimal_comma_locale.hpp"
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/text/text.hpp>
 
+#include <limits>
 #include <string>
+#include <vector>
 
 using namespace orrery;
 using shell::lang::Token;
@@ -82,7 +85,32 @@ TEST(Lexer, RefusesMalformedText) {
         SCOPED_TRACE(c.source);
         EXPECT_MSGID(tokenize(c.source, u"test"), c.expected);
     }
-    // The text names the source, line and column.
+    // The text names the source, line and column, and shows a whole UTF-8 character
+    // or else the offending byte.
     EXPECT_MSGID_TEXT(tokenize("x = \xC3\xA9", u"demo.orr"), "ORRERY:shell:badCharacter",
                       "Syntax error in demo.orr at line 1, column 5: the character '\xC3\xA9' is not allowed here.");
+    const std::pair<const char*, const char*> shown[] = {
+        {"x = \xF0\x9F\x98\x80", "the character '\xF0\x9F\x98\x80' is"},
+        {"x = \xC3", "the character byte 0xC3 is"},
+        {"x = \xED\xA0\x80", "the character byte 0xED is"},
+        {"x = \x01", "the character byte 0x01 is"},
+    };
+    for (const auto& [source, text] : shown) {
+        SCOPED_TRACE(source);
+        try {
+            tokenize(source, u"demo.orr");
+            ADD_FAILURE() << "nothing raised";
+        } catch (const orrery::except::IMsgIDException& failure) {
+            EXPECT_NE(std::string(failure.what()).find(text), std::string::npos) << failure.what();
+        }
+    }
+}
+
+TEST(Lexer, ReadsNumbersTheSameUnderADecimalCommaLocale) {
+    ORRERY_USE_DECIMAL_COMMA_LOCALE();
+    const auto tokens = tokenize("x = [1.5 .25 2e-1 1e400]", u"test");
+    std::vector<double> numbers;
+    for (const Token& token : tokens)
+        if (token.kind == TokenKind::Number) numbers.push_back(token.number);
+    EXPECT_EQ(numbers, (std::vector<double>{1.5, 0.25, 0.2, std::numeric_limits<double>::infinity()}));
 }

@@ -2,9 +2,9 @@
 #include <orrery/except/internal_error.hpp>
 #include <orrery/ocos/cos_type.hpp>
 #include <orrery/ocos/registry.hpp>
+#include <orrery/text/identifiers.hpp>
 #include <orrery/text/text.hpp>
 
-#include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <utility>
@@ -52,15 +52,11 @@ COSTypeKind parseKind(std::string_view text) {
     return COSTypeKind::Class;
 }
 
-bool isAscii(std::u16string_view units) {
-    return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 128; });
-}
-
 std::optional<PropertyValue> toAscii(const ValueArray& value) {
     if (value.is(ClassId::String) && value.isScalar() && !value.stringAt(0)) return std::string();
     if (!value.isTextScalarTolerant()) return std::nullopt;
     const std::u16string units = value.text();
-    if (!isAscii(units)) return std::nullopt;
+    if (!text::isAscii(units)) return std::nullopt;
     return text::utf16ToAscii(units);
 }
 
@@ -115,21 +111,12 @@ void validateType(const COSType& type, std::string_view describingClass) {
 }
 
 bool isValidDottedName(std::string_view name) {
-    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    bool atStart = true;
-    for (const char c : name) {
-        if (c == '.') {
-            if (atStart) return false;
-            atStart = true;
-        } else if (atStart) {
-            if (!isLetter(c)) return false;
-            atStart = false;
-        } else if (!isLetter(c) && !isDigit(c) && c != '_') {
-            return false;
-        }
+    for (std::size_t start = 0;;) {
+        const std::size_t dot = name.find('.', start);
+        if (!text::isIdentifier(name.substr(start, dot - start), text::IdentifierKind::Name)) return false;
+        if (dot == std::string_view::npos) return true;
+        start = dot + 1;
     }
-    return !atStart;
 }
 
 }  // namespace orrery::ocos

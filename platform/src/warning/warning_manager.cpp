@@ -4,6 +4,7 @@
 #include <orrery/console/console_sink.hpp>
 #include <orrery/except/internal_error.hpp>
 #include <orrery/interp/virtual_machine.hpp>
+#include <orrery/text/identifiers.hpp>
 #include <orrery/text/text.hpp>
 
 #include <cstdarg>
@@ -26,9 +27,6 @@ Functions& functions() {
 }
 
 bool isAll(std::string_view identifier) { return text::equalsIgnoreCaseAscii(identifier, "all"); }
-
-bool isIdentifierStart(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
-bool isIdentifierPart(char c) { return isIdentifierStart(c) || (c >= '0' && c <= '9') || c == '_' || c == '-'; }
 
 WarningState checkedState(WarningState state) {
     if (state < WarningState::Off || state > WarningState::Error)
@@ -131,9 +129,10 @@ bool utIsValidMessageIdentifier(std::string_view identifier) {
     std::size_t components = 0;
     std::size_t i = 0;
     while (true) {
-        if (i >= identifier.size() || !isIdentifierStart(identifier[i])) return false;
+        if (i >= identifier.size() || !text::isIdentifierStart(identifier[i])) return false;
         ++i;
-        while (i < identifier.size() && isIdentifierPart(identifier[i])) ++i;
+        while (i < identifier.size() && text::isIdentifierPart(identifier[i], text::IdentifierKind::MessageComponent))
+            ++i;
         ++components;
         if (i == identifier.size()) return components >= 2;
         if (identifier[i] != ':') return false;

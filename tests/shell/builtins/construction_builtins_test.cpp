@@ -1,5 +1,6 @@
 // Tests of the sizes and classes that built-ins produce, and of class conversion.
 #include "tests/shell/builtins/builtin_call.hpp"
+#include "tests/support/decimal_comma_locale.hpp"
 #include "tests/support/expect_error.hpp"
 
 #include <cmath>
@@ -44,6 +45,13 @@ TEST(ConversionBuiltins, ConvertValuesAsTheLanguageDoes) {
     EXPECT_EQ(*call1("string", {num(3.14159)}).stringAt(0), u"3.1416");
     EXPECT_EQ(*call1("string", {ValueArray::logicalScalar(false)}).stringAt(0), u"false");
     EXPECT_EQ(numbers(call1("logical", {row({0, 2})})), (std::vector<double>{0, 1}));
+}
+
+TEST(ConversionBuiltins, ReadStringsAsNumbersUnderAnyLocale) {
+    ORRERY_USE_DECIMAL_COMMA_LOCALE();
+    const std::pair<std::u16string, double> read[] = {{u"1.5", 1.5}, {u" +2.5e1 ", 25}, {u"-Inf", -INFINITY}};
+    for (const auto& [text, number] : read) EXPECT_EQ(numbers(call1("double", {str(text)})), std::vector<double>{number});
+    EXPECT_TRUE(std::isnan(call1("double", {str(u"1,5")}).realAt(0)));
 }
 
 TEST(ConversionBuiltins, RejectValuesWithoutAConversion) {

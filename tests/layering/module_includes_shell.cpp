@@ -1,0 +1,2 @@
+// Must not compile: the module never depends on the shell.
+#include "shell/eval/interpreter.hpp"

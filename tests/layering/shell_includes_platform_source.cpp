@@ -1,0 +1,2 @@
+// Must not compile: the shell sees the platform's public headers only.
+#include "platform/src/warning/warning_print.hpp"
