@@ -5,7 +5,7 @@
 set -euo pipefail
 
 packages=(
-  g++ clang libclang-rt-14-dev cmake ninja-build pkg-config
+  g++ clang libclang-rt-14-dev clang-format clang-tidy cmake ninja-build pkg-config
   libboost-dev libboost-thread-dev libboost-system-dev
   libexpat1-dev libicu-dev icu-devtools
   libgtest-dev libgmock-dev libbenchmark-dev

@@ -35,9 +35,11 @@ int run(const Options& options) {
     interpreter.baseWorkspace().set("argv", argumentCell(options.scriptArgs));
     auto outcome = shell::startup::RunOutcome::Completed;
     switch (options.mode) {
-    case Options::Mode::Script: outcome = shell::startup::runScriptFile(interpreter, options.script); break;
-    case Options::Mode::Text: outcome = shell::startup::runSource(interpreter, options.text, u"<command>", u""); break;
-    default: shell::prompt::runPrompt(interpreter); break;
+        case Options::Mode::Script: outcome = shell::startup::runScriptFile(interpreter, options.script); break;
+        case Options::Mode::Text:
+            outcome = shell::startup::runSource(interpreter, options.text, u"<command>", u"");
+            break;
+        default: shell::prompt::runPrompt(interpreter); break;
     }
     shell::setVariableQuery({});
     return shell::startup::exitStatus(outcome);
@@ -50,8 +52,9 @@ int main(int argc, char** argv) {
     // after it is terminated.
     const interp::VirtualMachineScope machine;
     Options options;
-    const auto parsed =
-        shell::startup::runAtTopLevel([&] { options = shell::startup::parseCommandLine({argv + 1, argv + argc}); });
+    const auto parsed = shell::startup::runAtTopLevel([&] {
+        options = shell::startup::parseCommandLine({argv + 1, argv + argc});
+    });
     if (parsed != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(parsed);
     if (options.mode == Options::Mode::Help) {
         console::consoleWrite(console::ConsoleStream::Output, shell::startup::usageText());

@@ -26,16 +26,13 @@ bool isSilentMessage(const ValueArray& first) {
 except::QExceptionEnvelope describeError(std::int32_t inputCount, const ValueArray* const* inputs) {
     const MessageInputAnalyzer analyzer(inputCount, inputs, std::string(ids::kErrorPrefix));
     switch (analyzer.kind()) {
-        case MessageKind::MessageObject:
-            return except::QExceptionEnvelope(*analyzer.ingredients());
+        case MessageKind::MessageObject: return except::QExceptionEnvelope(*analyzer.ingredients());
         case MessageKind::Structure: {
             ErrorStructure error = readErrorStructure(*inputs[0]);
             return {std::move(error.identifier), std::move(error.message), std::move(error.stack), 1};
         }
-        case MessageKind::Text:
-            return {analyzer.identifier(), analyzer.formatMessage(), std::nullopt, 1};
-        default:
-            return {"", u"", std::nullopt, 1};
+        case MessageKind::Text: return {analyzer.identifier(), analyzer.formatMessage(), std::nullopt, 1};
+        default: return {"", u"", std::nullopt, 1};
     }
 }
 

@@ -1,6 +1,6 @@
 // Classification, identifier checks and formatting of message arguments.
-#include <orrery/except/internal_error.hpp>
 #include "diagnostic/module/message_input_analyzer.hpp"
+#include <orrery/except/internal_error.hpp>
 
 #include "diagnostic/module/diagnostic_ids.hpp"
 
@@ -115,7 +115,8 @@ void MessageInputAnalyzer::checkFormatArguments() const {
 }
 
 std::u16string MessageInputAnalyzer::formatMessage() const {
-    if (kind_ != MessageKind::Text) except::internalError("message input analysis", "formatMessage needs a text analysis");
+    if (kind_ != MessageKind::Text)
+        except::internalError("message input analysis", "formatMessage needs a text analysis");
     if (inputCount_ < 2) return rawInputs_[0]->text();
     checkFormatArguments();
     const ValueArray result = interp::fiSprintf(inputCount_ - identifierIndex_, rawInputs_.data() + identifierIndex_);

@@ -35,8 +35,8 @@ ValueArray filled(ClassId id, value::Dims dims, double fill) {
 }
 
 // f(sizes..., 'class'): a filled array of any numeric class (or of allowed ones).
-ValueArray filledFromArguments(std::string_view function, std::int32_t nrhs, const ValueArray* const* prhs,
-                               double fill, bool floatingOnly) {
+ValueArray filledFromArguments(std::string_view function, std::int32_t nrhs, const ValueArray* const* prhs, double fill,
+                               bool floatingOnly) {
     Arguments arguments = argumentsOf(nrhs, prhs);
     ClassId id = ClassId::Double;
     if (const auto name = takeTrailingText(arguments)) {
@@ -54,15 +54,14 @@ double parseNumber(const std::optional<std::u16string>& element) {
 }
 
 [[noreturn]] void cannotConvert(const ValueArray& from, ClassId to) {
-    except::throwMessage(messages::CannotConvert(text::utf8ToUtf16(from.className()),
-                                                 text::asciiToUtf16(value::className(to))));
+    except::throwMessage(
+        messages::CannotConvert(text::utf8ToUtf16(from.className()), text::asciiToUtf16(value::className(to))));
 }
 
 ValueArray convertNumbers(const ValueArray& from, ClassId to) {
     const bool isText = from.is(ClassId::String);
     if (isText && to != ClassId::Double && to != ClassId::Single) cannotConvert(from, to);
-    if (!isText && !from.isNumeric() && !from.is(ClassId::Logical) && !from.is(ClassId::Char))
-        cannotConvert(from, to);
+    if (!isText && !from.isNumeric() && !from.is(ClassId::Logical) && !from.is(ClassId::Char)) cannotConvert(from, to);
     if (from.is(to)) return from;
     ValueArray result = ValueArray::zeros(to, from.dims());
     for (std::size_t i = 0; i < from.numel(); ++i)

@@ -54,8 +54,8 @@ void alongDimension(std::int32_t nlhs, ValueArrayPtr* plhs, const ValueArray& x,
 template <bool Max>
 ValueArray elementWise(const ValueArray& a, const ValueArray& b) {
     if (a.dims() != b.dims() && !a.isScalar() && !b.isScalar())
-        except::throwMessage(messages::SizeMismatch(text::asciiToUtf16(a.dims().text()),
-                                                    text::asciiToUtf16(b.dims().text())));
+        except::throwMessage(
+            messages::SizeMismatch(text::asciiToUtf16(a.dims().text()), text::asciiToUtf16(b.dims().text())));
     const value::Dims& dims = a.isScalar() ? b.dims() : a.dims();
     ValueArray result = ValueArray::zeros(combinedClass(a, b), dims);
     for (std::size_t i = 0; i < result.numel(); ++i) {
@@ -84,7 +84,8 @@ void bnExtremum(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const
         if (nlhs > 1) plhs[1] = makeValue(ValueArray());
         return;
     }
-    const Slices slices = nrhs == 3 ? slicesAlong(x.dims(), dimensionArgument(*prhs[2], name)) : defaultSlices(x.dims());
+    const Slices slices =
+        nrhs == 3 ? slicesAlong(x.dims(), dimensionArgument(*prhs[2], name)) : defaultSlices(x.dims());
     alongDimension<Max>(nlhs, plhs, x, slices);
 }
 

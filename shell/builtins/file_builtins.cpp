@@ -36,9 +36,7 @@ VariableQuery& variableQuery() {
 
 }  // namespace
 
-VariableQuery setVariableQuery(VariableQuery query) {
-    return std::exchange(variableQuery(), std::move(query));
-}
+VariableQuery setVariableQuery(VariableQuery query) { return std::exchange(variableQuery(), std::move(query)); }
 
 namespace builtins {
 namespace {
@@ -88,8 +86,7 @@ void deleteFiles(const std::string& name) {
         return;
     }
     for (const fs::path& file : files) {
-        if (fs::is_directory(file, status))
-            except::throwMessage(messages::DeleteFolder(wide(file.string())));
+        if (fs::is_directory(file, status)) except::throwMessage(messages::DeleteFolder(wide(file.string())));
         if (!fs::remove(file, status) && status)
             except::throwMessage(messages::CannotDelete(wide(file.string()), wide(status.message())));
     }
@@ -143,7 +140,10 @@ void bnTempname(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const
 }
 
 constexpr BuiltinEntry table[] = {
-    {"fileread", bnFileread}, {"delete", bnDelete}, {"exist", bnExist}, {"tempname", bnTempname},
+    {"fileread", bnFileread},
+    {"delete", bnDelete},
+    {"exist", bnExist},
+    {"tempname", bnTempname},
 };
 
 }  // namespace

@@ -33,7 +33,8 @@ void bnCd(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const Value
     if (nrhs == 1) {
         const std::string folder = textArgumentUtf8(*prhs[0], "cd", 1);
         std::error_code status;
-        if (folder.empty() || !fs::is_directory(folder, status)) except::throwMessage(messages::NoSuchFolder(wide(folder)));
+        if (folder.empty() || !fs::is_directory(folder, status))
+            except::throwMessage(messages::NoSuchFolder(wide(folder)));
         fs::current_path(folder, status);
         if (status) except::throwMessage(messages::NoSuchFolder(wide(folder)));
     }
@@ -58,8 +59,10 @@ void bnMkdir(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const Va
     std::error_code status;
     if (fs::is_directory(folder, status)) {
         const catalogue::MessageContent exists{std::string(messages::FolderExists::identifierText), {wide(name)}};
-        if (nlhs == 0) warning::issueCatalogueWarning(warning::utGetWarningManagerContext(), exists);
-        else reportMkdir(nlhs, plhs, true, &exists);
+        if (nlhs == 0)
+            warning::issueCatalogueWarning(warning::utGetWarningManagerContext(), exists);
+        else
+            reportMkdir(nlhs, plhs, true, &exists);
         return;
     }
     fs::create_directories(folder, status);

@@ -84,7 +84,7 @@ void bnSum(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const Valu
 }
 
 constexpr BuiltinEntry table[] = {
-    {"abs", bnAbs}, {"isnan", bnIsnan}, {"isinf", bnIsinf},
+    {"abs", bnAbs},           {"isnan", bnIsnan},      {"isinf", bnIsinf},
     {"any", bnAnyAll<false>}, {"all", bnAnyAll<true>}, {"sum", bnSum},
 };
 

@@ -33,10 +33,14 @@ bool isDescending(const std::string& mode) {
 SortRequest sortRequest(std::int32_t nrhs, const ValueArray* const* prhs) {
     Arguments arguments = argumentsOf(nrhs, prhs).subspan(1);
     SortRequest request;
-    if (const auto mode = takeTrailingText(arguments)) request.descending = isDescending(*mode);
-    else if (nrhs == 3) except::throwMessage(messages::NotText(u"sort", 3));
-    if (!arguments.empty()) request.slices = slicesAlong(prhs[0]->dims(), dimensionArgument(*arguments[0], "sort"));
-    else request.slices = defaultSlices(prhs[0]->dims());
+    if (const auto mode = takeTrailingText(arguments))
+        request.descending = isDescending(*mode);
+    else if (nrhs == 3)
+        except::throwMessage(messages::NotText(u"sort", 3));
+    if (!arguments.empty())
+        request.slices = slicesAlong(prhs[0]->dims(), dimensionArgument(*arguments[0], "sort"));
+    else
+        request.slices = defaultSlices(prhs[0]->dims());
     return request;
 }
 

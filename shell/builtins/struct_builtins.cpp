@@ -87,9 +87,12 @@ ValueArray columnCell(const std::vector<std::string>& names) {
 void bnFieldnames(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
     checkArgumentCounts(nlhs, 1, nrhs, 1, 1);
     const ValueArray& v = *prhs[0];
-    if (v.is(ClassId::Struct)) plhs[0] = makeValue(columnCell(v.fieldNames()));
-    else if (v.is(ClassId::Object) && v.classInfo()) plhs[0] = makeValue(columnCell(v.classInfo()->getPropertyNames()));
-    else except::throwMessage(messages::NotStructOrObject(u"fieldnames", text::utf8ToUtf16(v.className())));
+    if (v.is(ClassId::Struct))
+        plhs[0] = makeValue(columnCell(v.fieldNames()));
+    else if (v.is(ClassId::Object) && v.classInfo())
+        plhs[0] = makeValue(columnCell(v.classInfo()->getPropertyNames()));
+    else
+        except::throwMessage(messages::NotStructOrObject(u"fieldnames", text::utf8ToUtf16(v.className())));
 }
 
 void bnIsfield(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {

@@ -41,8 +41,10 @@ void bnFprintf(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
     const std::int32_t skip = hasFid ? 1 : 0;
     const ValueArray formatted = interp::fiSprintf(nrhs - skip, prhs + skip);
     const std::string text = text::utf16ToUtf8(formatted.text());
-    if (toError) writeErrorOutput(text);
-    else writeOutput(text);
+    if (toError)
+        writeErrorOutput(text);
+    else
+        writeOutput(text);
     if (nlhs > 0) plhs[0] = makeValue(ValueArray::scalar(static_cast<double>(text.size())));
 }
 
@@ -95,8 +97,8 @@ ValueArray compareTexts(const ValueArray& a, const ValueArray& b, bool ignoreCas
     const bool xSpreads = x.items.size() == 1 && (!x.isArray || y.isArray);
     const bool ySpreads = y.items.size() == 1 && !xSpreads;
     if (x.isArray && y.isArray && x.dims != y.dims && !xSpreads && !ySpreads)
-        except::throwMessage(messages::SizeMismatch(text::asciiToUtf16(x.dims.text()),
-                                                    text::asciiToUtf16(y.dims.text())));
+        except::throwMessage(
+            messages::SizeMismatch(text::asciiToUtf16(x.dims.text()), text::asciiToUtf16(y.dims.text())));
     const value::Dims& dims = xSpreads ? y.dims : x.dims;
     ValueArray result = ValueArray::zeros(ClassId::Logical, dims);
     for (std::size_t i = 0; i < result.numel(); ++i)
@@ -115,7 +117,7 @@ void bnStrcmpi(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
 }
 
 constexpr BuiltinEntry table[] = {
-    {"disp", bnDisp},     {"fprintf", bnFprintf},   {"sprintf", bnSprintf, true},
+    {"disp", bnDisp},     {"fprintf", bnFprintf}, {"sprintf", bnSprintf, true},
     {"strcmp", bnStrcmp}, {"strcmpi", bnStrcmpi},
 };
 

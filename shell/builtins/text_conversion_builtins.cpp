@@ -17,8 +17,8 @@ namespace orrery::shell::builtins {
 namespace {
 
 [[noreturn]] void cannotConvert(const ValueArray& from, ClassId to) {
-    except::throwMessage(messages::CannotConvert(text::utf8ToUtf16(from.className()),
-                                                 text::asciiToUtf16(value::className(to))));
+    except::throwMessage(
+        messages::CannotConvert(text::utf8ToUtf16(from.className()), text::asciiToUtf16(value::className(to))));
 }
 
 // ---- char --------------------------------------------------------------------
@@ -95,8 +95,10 @@ void bnChar(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const Val
     }
     std::vector<std::u16string> rows;
     for (const ValueArray* v : argumentsOf(nrhs, prhs)) {
-        if (v->is(ClassId::Char) && v->isEmpty()) rows.emplace_back();
-        else appendRows(*v, rows);
+        if (v->is(ClassId::Char) && v->isEmpty())
+            rows.emplace_back();
+        else
+            appendRows(*v, rows);
     }
     plhs[0] = makeValue(nrhs == 0 ? ValueArray::chars(u"") : charMatrix(rows));
 }

@@ -59,8 +59,8 @@ ValueArray datenumOfParts(Arguments parts) {
     }
     for (const ValueArray* p : parts)
         if (!p->isScalar() && p->dims() != shape->dims())
-            except::throwMessage(messages::SizeMismatch(text::asciiToUtf16(p->dims().text()),
-                                                        text::asciiToUtf16(shape->dims().text())));
+            except::throwMessage(
+                messages::SizeMismatch(text::asciiToUtf16(p->dims().text()), text::asciiToUtf16(shape->dims().text())));
     std::vector<double> serials(shape->numel());
     for (std::size_t i = 0; i < serials.size(); ++i) {
         std::array<double, 6> v{};
@@ -73,9 +73,12 @@ ValueArray datenumOfParts(Arguments parts) {
 void bnDatenum(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
     checkArgumentCounts(nlhs, 1, nrhs, 1, 6);
     for (const ValueArray* p : argumentsOf(nrhs, prhs)) requireNumbers(*p, "datenum");
-    if (nrhs == 1) plhs[0] = makeValue(datenumOfRows(*prhs[0]));
-    else if (nrhs == 3 || nrhs == 6) plhs[0] = makeValue(datenumOfParts(argumentsOf(nrhs, prhs)));
-    else except::throwMessage(messages::BadDateVector());
+    if (nrhs == 1)
+        plhs[0] = makeValue(datenumOfRows(*prhs[0]));
+    else if (nrhs == 3 || nrhs == 6)
+        plhs[0] = makeValue(datenumOfParts(argumentsOf(nrhs, prhs)));
+    else
+        except::throwMessage(messages::BadDateVector());
 }
 
 // datevec(n): an N-by-6 matrix, one row per element; [y, m, d, h, mi, s] = datevec(n)

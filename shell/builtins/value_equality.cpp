@@ -19,9 +19,7 @@ using value::ValueArray;
 
 bool equalAt(const ValueArray& a, const ValueArray& b);
 
-bool isNumberLike(const ValueArray& v) {
-    return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char);
-}
+bool isNumberLike(const ValueArray& v) { return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char); }
 
 bool numbersEqual(const ValueArray& a, const ValueArray& b) {
     for (std::size_t i = 0; i < a.numel(); ++i)
@@ -108,10 +106,10 @@ bool equalAt(const ValueArray& a, const ValueArray& b) {
     if (isNumberLike(a) && isNumberLike(b)) return numbersEqual(a, b);
     if (a.classId() != b.classId()) return false;
     switch (a.classId()) {
-    case ClassId::String: return stringsEqual(a, b);
-    case ClassId::Cell: return cellsEqual(a, b);
-    case ClassId::Struct: return structsEqual(a, b);
-    default: return false;
+        case ClassId::String: return stringsEqual(a, b);
+        case ClassId::Cell: return cellsEqual(a, b);
+        case ClassId::Struct: return structsEqual(a, b);
+        default: return false;
     }
 }
 

@@ -106,21 +106,23 @@ std::string structFields(const ValueArray& structs, std::size_t i) {
     for (const auto& name : names) width = std::max(width, name.size());
     std::string out;
     for (const auto& name : names)
-        out += "    " + std::string(width - name.size(), ' ') + name + ": " + fieldSummary(structs.field(i, name)) + "\n";
+        out +=
+            "    " + std::string(width - name.size(), ' ') + name + ": " + fieldSummary(structs.field(i, name)) + "\n";
     return out;
 }
 
 std::string valueBody(const ValueArray& value) {
     switch (value.classId()) {
-    case ClassId::Char: return sizeLine(value, "char array") + charRows(value, true);
-    case ClassId::String: return sizeLine(value, "string array") + stringRows(value);
-    case ClassId::Cell: return sizeLine(value, "cell array") + cellRows(value);
-    case ClassId::Struct:
-        if (!value.isScalar()) return structArrayBody(value);
-        return value.fieldNames().empty() ? "  struct with no fields.\n" : "  struct with fields:\n" + structFields(value, 0);
-    case ClassId::Object: return objectBody(value);
-    case ClassId::Double: return numberRows(value);
-    default: return sizeLine(value, value.className() + " array") + numberRows(value);
+        case ClassId::Char: return sizeLine(value, "char array") + charRows(value, true);
+        case ClassId::String: return sizeLine(value, "string array") + stringRows(value);
+        case ClassId::Cell: return sizeLine(value, "cell array") + cellRows(value);
+        case ClassId::Struct:
+            if (!value.isScalar()) return structArrayBody(value);
+            return value.fieldNames().empty() ? "  struct with no fields.\n"
+                                              : "  struct with fields:\n" + structFields(value, 0);
+        case ClassId::Object: return objectBody(value);
+        case ClassId::Double: return numberRows(value);
+        default: return sizeLine(value, value.className() + " array") + numberRows(value);
     }
 }
 

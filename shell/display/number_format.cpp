@@ -1,7 +1,6 @@
 // Formatting of numbers for display, on std::to_chars.
 #include "shell/display/number_format.hpp"
 
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -58,12 +57,9 @@ std::string formatElement(const value::ValueArray& numbers, std::size_t i, Numbe
     if (std::isnan(number)) return "NaN";
     if (std::isinf(number)) return number > 0 ? "Inf" : "-Inf";
     switch (layout) {
-    case NumberLayout::Integer:
-        return toChars(number == 0 ? 0.0 : number, std::chars_format::fixed, 0);
-    case NumberLayout::Fixed:
-        return number == 0 ? "0" : toChars(number, std::chars_format::fixed, 4);
-    case NumberLayout::Scientific:
-        return number == 0 ? "0" : toChars(number, std::chars_format::scientific, 4);
+        case NumberLayout::Integer: return toChars(number == 0 ? 0.0 : number, std::chars_format::fixed, 0);
+        case NumberLayout::Fixed: return number == 0 ? "0" : toChars(number, std::chars_format::fixed, 4);
+        case NumberLayout::Scientific: return number == 0 ? "0" : toChars(number, std::chars_format::scientific, 4);
     }
     return {};
 }

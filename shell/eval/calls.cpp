@@ -48,7 +48,8 @@ std::vector<ValueArray> invoke(const std::string& name, const std::vector<ValueA
     for (std::size_t i = 0; i < slots.size() && slots[i]; ++i) results.push_back(std::move(*slots[i]));
     if (static_cast<int>(results.size()) < nargout) {
         if (results.empty()) except::throwMessage(NoOutput(text::utf8ToUtf16(name)));
-        except::throwMessage(OutputNotSet(text::utf8ToUtf16(std::to_string(results.size() + 1)), text::utf8ToUtf16(name)));
+        except::throwMessage(
+            OutputNotSet(text::utf8ToUtf16(std::to_string(results.size() + 1)), text::utf8ToUtf16(name)));
     }
     return results;
 }
@@ -88,30 +89,32 @@ Interpreter::Values Interpreter::callFunction(const std::string& name, const Val
     const auto inputs = pointersTo(args);
     const bool method = ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
     if (!method) {
-        if (const auto found = functions_.find(name); found != functions_.end()) return callUser(found->second, args, nargout);
+        if (const auto found = functions_.find(name); found != functions_.end())
+            return callUser(found->second, args, nargout);
     }
     if (method || interp::isFunction(name)) return callBuiltin(name, args, nargout);
     except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));
 }
 
 Interpreter::Values Interpreter::callBuiltin(const std::string& name, const Values& args, int nargout) {
-    return invoke(name, args, nargout, [&name](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
-                                               const ValueArray* const* prhs) {
-        interp::callFunction(name, nlhs, plhs, nrhs, prhs);
-    });
+    return invoke(name, args, nargout,
+                  [&name](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
+                          const ValueArray* const* prhs) { interp::callFunction(name, nlhs, plhs, nrhs, prhs); });
 }
 
 Interpreter::Values Interpreter::callNamespaceFunction(const std::string& path, const Values& args, int nargout) {
-    return invoke(path, args, nargout, [&path](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
-                                               const ValueArray* const* prhs) {
-        ocos::callNamespaceFunction(path, nlhs, plhs, nrhs, prhs);
-    });
+    return invoke(
+        path, args, nargout,
+        [&path](std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+            ocos::callNamespaceFunction(path, nlhs, plhs, nrhs, prhs);
+        });
 }
 
 Interpreter::Values Interpreter::callUser(const UserFunction& function, const Values& args, int nargout) {
     const lang::FunctionDef& def = *function.def;
     if (args.size() > def.inputs.size()) raiseArgumentError(def.name, except::throwTooManyInputs);
-    if (static_cast<std::size_t>(nargout) > def.outputs.size()) raiseArgumentError(def.name, except::throwTooManyOutputs);
+    if (static_cast<std::size_t>(nargout) > def.outputs.size())
+        raiseArgumentError(def.name, except::throwTooManyOutputs);
     if (callDepth_ >= kMaxCallDepth) except::throwMessage(RecursionLimit(kMaxCallDepth));
 
     Workspace local;

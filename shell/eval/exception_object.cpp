@@ -44,7 +44,8 @@ std::shared_ptr<const ocos::COSClassInfo> describeClass() {
         "stack", "struct", [](const ExceptionInstance& e) { return e.error().stack(); }));
     info->addMethod(std::make_shared<RethrowMI>());
     info->setInstanceFactory([] {
-        return std::make_shared<ExceptionInstance>(except::QException("", u"", value::ValueArray::stackStructure(0), ""));
+        return std::make_shared<ExceptionInstance>(
+            except::QException("", u"", value::ValueArray::stackStructure(0), ""));
     });
     return info;
 }

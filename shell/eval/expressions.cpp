@@ -22,32 +22,32 @@ using value::ValueArray;
 namespace {
 
 // The function an object's class defines for a unary operator.
-std::string_view unaryFunction(Op op) {
-    return op == Op::Minus ? "uminus" : op == Op::Plus ? "uplus" : "not";
-}
+std::string_view unaryFunction(Op op) { return op == Op::Minus ? "uminus" : op == Op::Plus ? "uplus" : "not"; }
 
 }  // namespace
 
 ValueArray Interpreter::eval(const lang::Expr& expr) {
     StackBudget::check();
     switch (expr.kind) {
-    case ExprKind::Number: return ValueArray::scalar(expr.number);
-    case ExprKind::CharText: return ValueArray::chars(expr.text);
-    case ExprKind::StringText: return ValueArray::string(expr.text);
-    case ExprKind::Colon: return ValueArray::chars(u":");
-    case ExprKind::EndIndex: return evalEnd(expr);
-    case ExprKind::Unary: return applyOperator(expr.op, eval(*expr.operands[0]), nullptr);
-    case ExprKind::Binary:
-        if (expr.op == Op::AndAnd || expr.op == Op::OrOr) return evalShortCircuit(expr);
-        return evalBinary(expr);
-    case ExprKind::Range: return evalRange(expr);
-    case ExprKind::Transpose: return values::transpose(eval(*expr.operands[0]));
-    case ExprKind::Matrix: case ExprKind::CellArray: return evalBracketed(expr);
-    case ExprKind::Name: case ExprKind::Postfix: {
-        Values results = evalMulti(expr, 1);
-        if (results.empty()) except::throwMessage(NoValue());
-        return std::move(results.front());
-    }
+        case ExprKind::Number: return ValueArray::scalar(expr.number);
+        case ExprKind::CharText: return ValueArray::chars(expr.text);
+        case ExprKind::StringText: return ValueArray::string(expr.text);
+        case ExprKind::Colon: return ValueArray::chars(u":");
+        case ExprKind::EndIndex: return evalEnd(expr);
+        case ExprKind::Unary: return applyOperator(expr.op, eval(*expr.operands[0]), nullptr);
+        case ExprKind::Binary:
+            if (expr.op == Op::AndAnd || expr.op == Op::OrOr) return evalShortCircuit(expr);
+            return evalBinary(expr);
+        case ExprKind::Range: return evalRange(expr);
+        case ExprKind::Transpose: return values::transpose(eval(*expr.operands[0]));
+        case ExprKind::Matrix:
+        case ExprKind::CellArray: return evalBracketed(expr);
+        case ExprKind::Name:
+        case ExprKind::Postfix: {
+            Values results = evalMulti(expr, 1);
+            if (results.empty()) except::throwMessage(NoValue());
+            return std::move(results.front());
+        }
     }
     except::throwMessage(NoValue());
 }

@@ -77,8 +77,8 @@ private:
     void execAssign(const lang::Stmt& stmt);
     void execMultiAssign(const lang::Stmt& stmt);
     void assignTo(const lang::LValue& target, value::ValueArray rhs);
-    value::ValueArray assignChain(const value::ValueArray* base, const std::vector<lang::Suffix>& chain,
-                                  std::size_t k, value::ValueArray rhs);
+    value::ValueArray assignChain(const value::ValueArray* base, const std::vector<lang::Suffix>& chain, std::size_t k,
+                                  value::ValueArray rhs);
     value::ValueArray assignField(const value::ValueArray* base, const std::string& field,
                                   const std::vector<lang::Suffix>& chain, std::size_t k, value::ValueArray rhs);
 

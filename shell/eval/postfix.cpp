@@ -71,8 +71,8 @@ Interpreter::Values Interpreter::evalName(const std::string& name, const lang::E
     return applySuffixes(std::move(results), suffixes, k, nargout);
 }
 
-Interpreter::Values Interpreter::applySuffixes(Values current, const std::vector<lang::Suffix>& suffixes,
-                                               std::size_t k, int nargout) {
+Interpreter::Values Interpreter::applySuffixes(Values current, const std::vector<lang::Suffix>& suffixes, std::size_t k,
+                                               int nargout) {
     for (; k < suffixes.size(); ++k) {
         if (current.size() != 1) {
             if (current.empty()) except::throwMessage(NoValue());

@@ -55,18 +55,18 @@ Interpreter::Flow Interpreter::exec(const lang::Stmt& stmt) {
 
 Interpreter::Flow Interpreter::execKind(const lang::Stmt& stmt) {
     switch (stmt.kind) {
-    case StmtKind::Expression: execExpression(stmt); break;
-    case StmtKind::Assign: execAssign(stmt); break;
-    case StmtKind::MultiAssign: execMultiAssign(stmt); break;
-    case StmtKind::Command: execCommand(stmt); break;
-    case StmtKind::If: return execIf(stmt);
-    case StmtKind::For: return execFor(stmt);
-    case StmtKind::While: return execWhile(stmt);
-    case StmtKind::Switch: return execSwitch(stmt);
-    case StmtKind::Try: return execTry(stmt);
-    case StmtKind::Break: return Flow::Break;
-    case StmtKind::Continue: return Flow::Continue;
-    case StmtKind::Return: return Flow::Return;
+        case StmtKind::Expression: execExpression(stmt); break;
+        case StmtKind::Assign: execAssign(stmt); break;
+        case StmtKind::MultiAssign: execMultiAssign(stmt); break;
+        case StmtKind::Command: execCommand(stmt); break;
+        case StmtKind::If: return execIf(stmt);
+        case StmtKind::For: return execFor(stmt);
+        case StmtKind::While: return execWhile(stmt);
+        case StmtKind::Switch: return execSwitch(stmt);
+        case StmtKind::Try: return execTry(stmt);
+        case StmtKind::Break: return Flow::Break;
+        case StmtKind::Continue: return Flow::Continue;
+        case StmtKind::Return: return Flow::Return;
     }
     return Flow::Normal;
 }

@@ -19,25 +19,43 @@ using Block = std::vector<StmtPtr>;
 
 /// Unary and binary operators.
 enum class Op {
-    Plus, Minus, Not,                                     // unary (Plus, Minus also binary)
-    Times, Divide, LeftDivide, Power,                      // matrix forms
-    ElementTimes, ElementDivide, ElementLeftDivide, ElementPower,
-    Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual,
-    And, Or, AndAnd, OrOr,
+    Plus,
+    Minus,
+    Not,  // unary (Plus, Minus also binary)
+    Times,
+    Divide,
+    LeftDivide,
+    Power,  // matrix forms
+    ElementTimes,
+    ElementDivide,
+    ElementLeftDivide,
+    ElementPower,
+    Equal,
+    NotEqual,
+    Less,
+    LessEqual,
+    Greater,
+    GreaterEqual,
+    And,
+    Or,
+    AndAnd,
+    OrOr,
 };
 
 enum class ExprKind {
-    Number, CharText, StringText,
-    Name,        ///< a variable or a function; `name`
-    Colon,       ///< a bare ':' as an index
-    EndIndex,    ///< 'end' inside an index
-    Unary,       ///< op operands[0]
-    Binary,      ///< operands[0] op operands[1]; AndAnd/OrOr short-circuit
-    Range,       ///< operands: start, stop, or start, step, stop
-    Postfix,     ///< operands[0] followed by `suffixes`
-    Transpose,   ///< operands[0]' (conjugate) or operands[0].'
-    Matrix,      ///< [rows]
-    CellArray,   ///< {rows}
+    Number,
+    CharText,
+    StringText,
+    Name,       ///< a variable or a function; `name`
+    Colon,      ///< a bare ':' as an index
+    EndIndex,   ///< 'end' inside an index
+    Unary,      ///< op operands[0]
+    Binary,     ///< operands[0] op operands[1]; AndAnd/OrOr short-circuit
+    Range,      ///< operands: start, stop, or start, step, stop
+    Postfix,    ///< operands[0] followed by `suffixes`
+    Transpose,  ///< operands[0]' (conjugate) or operands[0].'
+    Matrix,     ///< [rows]
+    CellArray,  ///< {rows}
 };
 
 enum class SuffixKind { Paren, Brace, Field, DynamicField };
@@ -72,8 +90,18 @@ struct LValue {
 };
 
 enum class StmtKind {
-    Expression, Assign, MultiAssign, Command,
-    If, For, While, Switch, Try, Break, Continue, Return,
+    Expression,
+    Assign,
+    MultiAssign,
+    Command,
+    If,
+    For,
+    While,
+    Switch,
+    Try,
+    Break,
+    Continue,
+    Return,
 };
 
 /// A condition (if/elseif) or case value with the statements it guards.
@@ -85,14 +113,14 @@ struct Clause {
 struct Stmt {
     StmtKind kind = StmtKind::Expression;
     SourcePos pos;
-    bool printResult = true;          ///< not ended by a semicolon
-    ExprPtr expr;                     ///< value, for range, while/switch subject
-    std::vector<LValue> targets;      ///< Assign (one) and MultiAssign
-    std::string name;                 ///< Command name, for variable, catch variable
+    bool printResult = true;            ///< not ended by a semicolon
+    ExprPtr expr;                       ///< value, for range, while/switch subject
+    std::vector<LValue> targets;        ///< Assign (one) and MultiAssign
+    std::string name;                   ///< Command name, for variable, catch variable
     std::vector<std::u16string> words;  ///< Command words
-    std::vector<Clause> clauses;      ///< if/elseif tests, switch cases
-    Block body;                       ///< for, while and try bodies
-    Block otherwise;                  ///< else, otherwise and catch bodies
+    std::vector<Clause> clauses;        ///< if/elseif tests, switch cases
+    Block body;                         ///< for, while and try bodies
+    Block otherwise;                    ///< else, otherwise and catch bodies
     bool hasOtherwise = false;
 };
 

@@ -19,31 +19,38 @@ struct Spelling {
 
 // Longest spellings first, so that ".*" wins over ".".
 constexpr std::array kOperators{
-    Spelling{"&&", TokenKind::AndAnd},        Spelling{"||", TokenKind::OrOr},
-    Spelling{"==", TokenKind::Equal},         Spelling{"~=", TokenKind::NotEqual},
-    Spelling{"!=", TokenKind::NotEqual},      Spelling{"<=", TokenKind::LessEqual},
-    Spelling{">=", TokenKind::GreaterEqual},  Spelling{".*", TokenKind::DotStar},
-    Spelling{"./", TokenKind::DotSlash},      Spelling{".\\", TokenKind::DotBackslash},
-    Spelling{".^", TokenKind::DotCaret},      Spelling{".'", TokenKind::DotTranspose},
-    Spelling{"+", TokenKind::Plus},           Spelling{"-", TokenKind::Minus},
-    Spelling{"*", TokenKind::Star},           Spelling{"/", TokenKind::Slash},
-    Spelling{"\\", TokenKind::Backslash},     Spelling{"^", TokenKind::Caret},
-    Spelling{"<", TokenKind::Less},           Spelling{">", TokenKind::Greater},
-    Spelling{"&", TokenKind::And},            Spelling{"|", TokenKind::Or},
-    Spelling{"~", TokenKind::Not},            Spelling{"!", TokenKind::Not},
-    Spelling{"=", TokenKind::Assign},         Spelling{":", TokenKind::Colon},
-    Spelling{".", TokenKind::Dot},            Spelling{"@", TokenKind::At},
-    Spelling{",", TokenKind::Comma},          Spelling{";", TokenKind::Semicolon},
+    Spelling{"&&", TokenKind::AndAnd},       Spelling{"||", TokenKind::OrOr},
+    Spelling{"==", TokenKind::Equal},        Spelling{"~=", TokenKind::NotEqual},
+    Spelling{"!=", TokenKind::NotEqual},     Spelling{"<=", TokenKind::LessEqual},
+    Spelling{">=", TokenKind::GreaterEqual}, Spelling{".*", TokenKind::DotStar},
+    Spelling{"./", TokenKind::DotSlash},     Spelling{".\\", TokenKind::DotBackslash},
+    Spelling{".^", TokenKind::DotCaret},     Spelling{".'", TokenKind::DotTranspose},
+    Spelling{"+", TokenKind::Plus},          Spelling{"-", TokenKind::Minus},
+    Spelling{"*", TokenKind::Star},          Spelling{"/", TokenKind::Slash},
+    Spelling{"\\", TokenKind::Backslash},    Spelling{"^", TokenKind::Caret},
+    Spelling{"<", TokenKind::Less},          Spelling{">", TokenKind::Greater},
+    Spelling{"&", TokenKind::And},           Spelling{"|", TokenKind::Or},
+    Spelling{"~", TokenKind::Not},           Spelling{"!", TokenKind::Not},
+    Spelling{"=", TokenKind::Assign},        Spelling{":", TokenKind::Colon},
+    Spelling{".", TokenKind::Dot},           Spelling{"@", TokenKind::At},
+    Spelling{",", TokenKind::Comma},         Spelling{";", TokenKind::Semicolon},
 };
 
 constexpr std::array kKeywords{
-    Spelling{"if", TokenKind::If},           Spelling{"elseif", TokenKind::Elseif},
-    Spelling{"else", TokenKind::Else},       Spelling{"end", TokenKind::End},
-    Spelling{"for", TokenKind::For},         Spelling{"while", TokenKind::While},
-    Spelling{"break", TokenKind::Break},     Spelling{"continue", TokenKind::Continue},
-    Spelling{"return", TokenKind::Return},   Spelling{"try", TokenKind::Try},
-    Spelling{"catch", TokenKind::Catch},     Spelling{"function", TokenKind::Function},
-    Spelling{"switch", TokenKind::Switch},   Spelling{"case", TokenKind::Case},
+    Spelling{"if", TokenKind::If},
+    Spelling{"elseif", TokenKind::Elseif},
+    Spelling{"else", TokenKind::Else},
+    Spelling{"end", TokenKind::End},
+    Spelling{"for", TokenKind::For},
+    Spelling{"while", TokenKind::While},
+    Spelling{"break", TokenKind::Break},
+    Spelling{"continue", TokenKind::Continue},
+    Spelling{"return", TokenKind::Return},
+    Spelling{"try", TokenKind::Try},
+    Spelling{"catch", TokenKind::Catch},
+    Spelling{"function", TokenKind::Function},
+    Spelling{"switch", TokenKind::Switch},
+    Spelling{"case", TokenKind::Case},
     Spelling{"otherwise", TokenKind::Otherwise},
 };
 
@@ -138,13 +145,13 @@ void Lexer::lexPunctuation() {
         return push(op.kind, op.text.size());
     }
     switch (peek()) {
-    case '(': return openBracket('(', TokenKind::LParen);
-    case '[': return openBracket('[', TokenKind::LBracket);
-    case '{': return openBracket('{', TokenKind::LBrace);
-    case ')': return closeBracket(TokenKind::RParen);
-    case ']': return closeBracket(TokenKind::RBracket);
-    case '}': return closeBracket(TokenKind::RBrace);
-    default: badCharacter();
+        case '(': return openBracket('(', TokenKind::LParen);
+        case '[': return openBracket('[', TokenKind::LBracket);
+        case '{': return openBracket('{', TokenKind::LBrace);
+        case ')': return closeBracket(TokenKind::RParen);
+        case ']': return closeBracket(TokenKind::RBracket);
+        case '}': return closeBracket(TokenKind::RBrace);
+        default: badCharacter();
     }
 }
 
@@ -174,12 +181,17 @@ void Lexer::lexIdentifier() {
 bool Lexer::previousEndsValue() const {
     if (tokens_.empty()) return false;
     switch (tokens_.back().kind) {
-    case TokenKind::Number: case TokenKind::CharText: case TokenKind::StringText: case TokenKind::Identifier:
-    case TokenKind::RParen: case TokenKind::RBracket: case TokenKind::RBrace: case TokenKind::Transpose:
-    case TokenKind::DotTranspose: case TokenKind::End:
-        return true;
-    default:
-        return false;
+        case TokenKind::Number:
+        case TokenKind::CharText:
+        case TokenKind::StringText:
+        case TokenKind::Identifier:
+        case TokenKind::RParen:
+        case TokenKind::RBracket:
+        case TokenKind::RBrace:
+        case TokenKind::Transpose:
+        case TokenKind::DotTranspose:
+        case TokenKind::End: return true;
+        default: return false;
     }
 }
 
@@ -196,9 +208,7 @@ bool Lexer::startsElement() const {
 
 // A quote right after a value is a transpose, except after a blank inside
 // brackets, where it opens a text.
-bool Lexer::isTransposeHere(bool space) const {
-    return previousEndsValue() && !(space && inMatrix());
-}
+bool Lexer::isTransposeHere(bool space) const { return previousEndsValue() && !(space && inMatrix()); }
 
 }  // namespace detail
 

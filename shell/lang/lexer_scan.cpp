@@ -29,7 +29,8 @@ bool lineIs(std::string_view line, std::string_view marker) {
 constexpr std::string_view kOperatorChars = "+-*/\\^<>=&|~!:.@";
 
 std::size_t operatorLength(std::string_view rest) {
-    static constexpr std::string_view pairs[] = {"==", "~=", "!=", "<=", ">=", "&&", "||", ".*", "./", ".\\", ".^", ".'"};
+    static constexpr std::string_view pairs[] = {"==", "~=", "!=", "<=",  ">=", "&&",
+                                                 "||", ".*", "./", ".\\", ".^", ".'"};
     for (auto pair : pairs)
         if (rest.substr(0, 2) == pair) return 2;
     return 1;
@@ -126,9 +127,9 @@ bool Lexer::commandSyntaxFollows() const {
     if (kOperatorChars.find(c) == std::string_view::npos) return true;
     const std::size_t length = operatorLength(src_.substr(pos_ + i));
     const char after = peek(i + length);
-    if (c == '=' && length == 1) return false;  // an assignment
+    if (c == '=' && length == 1) return false;                           // an assignment
     if (after == '\0' || after == '\n' || isBlank(after)) return false;  // a binary operator between blanks
-    return c == '-' && text::isIdentifierStart(after);  // an option word ("-all")
+    return c == '-' && text::isIdentifierStart(after);                   // an option word ("-all")
 }
 
 void Lexer::lexCommandWords() {
@@ -147,7 +148,8 @@ void Lexer::lexCommandWords() {
             }
             advance();
             for (;;) {
-                if (atEnd() || peek() == '\n') except::throwMessage(UnterminatedText(sourceName_, start.line, start.column));
+                if (atEnd() || peek() == '\n')
+                    except::throwMessage(UnterminatedText(sourceName_, start.line, start.column));
                 const char inner = peek();
                 advance();
                 if (inner != quote) {

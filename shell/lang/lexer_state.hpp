@@ -56,8 +56,8 @@ private:
     std::size_t pos_ = 0;
     std::uint32_t line_ = 1;
     std::uint32_t column_ = 1;
-    std::string brackets_;          // open brackets, innermost last
-    bool statementStart_ = true;    // the next identifier may begin command syntax
+    std::string brackets_;        // open brackets, innermost last
+    bool statementStart_ = true;  // the next identifier may begin command syntax
     bool spaceBefore_ = false;
     std::vector<Token> tokens_;
 };

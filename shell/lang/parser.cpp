@@ -93,29 +93,31 @@ Block Parser::parseBlock(std::initializer_list<TokenKind> terminators) {
 StmtPtr Parser::parseStatement() {
     const Token& token = peek();
     switch (token.kind) {
-    case If: return parseIf();
-    case For: return parseFor();
-    case While: return parseWhile();
-    case Switch: return parseSwitch();
-    case Try: return parseTry();
-    case Break: case Continue: case Return: {
-        if (token.kind != Return && loopDepth_ == 0) {
-            except::throwMessage(OutsideLoop(sourceName_, token.pos.line, token.pos.column,
-                                             text::utf8ToUtf16(token.kind == Break ? "break" : "continue")));
+        case If: return parseIf();
+        case For: return parseFor();
+        case While: return parseWhile();
+        case Switch: return parseSwitch();
+        case Try: return parseTry();
+        case Break:
+        case Continue:
+        case Return: {
+            if (token.kind != Return && loopDepth_ == 0) {
+                except::throwMessage(OutsideLoop(sourceName_, token.pos.line, token.pos.column,
+                                                 text::utf8ToUtf16(token.kind == Break ? "break" : "continue")));
+            }
+            auto stmt = beginStatement(token.kind == Break      ? StmtKind::Break
+                                       : token.kind == Continue ? StmtKind::Continue
+                                                                : StmtKind::Return);
+            endStatement(*stmt);
+            return stmt;
         }
-        auto stmt = beginStatement(token.kind == Break      ? StmtKind::Break
-                                   : token.kind == Continue ? StmtKind::Continue
-                                                            : StmtKind::Return);
-        endStatement(*stmt);
-        return stmt;
-    }
-    case Identifier:
-        if (peek(1).kind == CommandWord) return parseCommand();
-        return parseExpressionOrAssign();
-    case LBracket:
-        if (startsMultiAssign()) return parseMultiAssign();
-        return parseExpressionOrAssign();
-    default: return parseExpressionOrAssign();
+        case Identifier:
+            if (peek(1).kind == CommandWord) return parseCommand();
+            return parseExpressionOrAssign();
+        case LBracket:
+            if (startsMultiAssign()) return parseMultiAssign();
+            return parseExpressionOrAssign();
+        default: return parseExpressionOrAssign();
     }
 }
 

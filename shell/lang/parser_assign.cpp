@@ -110,7 +110,8 @@ void Parser::parseFunction() {
     --blockDepth_;
     accept(End);
     if (program_.functions.contains(def->name)) {
-        except::throwMessage(DuplicateFunction(sourceName_, name.pos.line, name.pos.column, text::utf8ToUtf16(def->name)));
+        except::throwMessage(
+            DuplicateFunction(sourceName_, name.pos.line, name.pos.column, text::utf8ToUtf16(def->name)));
     }
     program_.functions.emplace(def->name, std::move(def));
 }

@@ -27,12 +27,20 @@ const std::array<std::vector<BinaryOperator>, 8> kLevels{{
     {{AndAnd, Op::AndAnd}},
     {{Or, Op::Or}},
     {{And, Op::And}},
-    {{Equal, Op::Equal}, {NotEqual, Op::NotEqual}, {Less, Op::Less}, {LessEqual, Op::LessEqual},
-     {Greater, Op::Greater}, {GreaterEqual, Op::GreaterEqual}},
+    {{Equal, Op::Equal},
+     {NotEqual, Op::NotEqual},
+     {Less, Op::Less},
+     {LessEqual, Op::LessEqual},
+     {Greater, Op::Greater},
+     {GreaterEqual, Op::GreaterEqual}},
     {},  // ranges: parseRange
     {{Plus, Op::Plus}, {Minus, Op::Minus}},
-    {{Star, Op::Times}, {Slash, Op::Divide}, {Backslash, Op::LeftDivide}, {DotStar, Op::ElementTimes},
-     {DotSlash, Op::ElementDivide}, {DotBackslash, Op::ElementLeftDivide}},
+    {{Star, Op::Times},
+     {Slash, Op::Divide},
+     {Backslash, Op::LeftDivide},
+     {DotStar, Op::ElementTimes},
+     {DotSlash, Op::ElementDivide},
+     {DotBackslash, Op::ElementLeftDivide}},
 }};
 constexpr int kRangeLevel = 5;
 
@@ -192,35 +200,36 @@ ExprPtr Parser::parseArgument() {
 ExprPtr Parser::parsePrimary() {
     const Token& token = peek();
     switch (token.kind) {
-    case Number: {
-        auto node = makeNode(ExprKind::Number, take().pos);
-        node->number = token.number;
-        return node;
-    }
-    case CharText: case StringText: {
-        auto node = makeNode(token.kind == CharText ? ExprKind::CharText : ExprKind::StringText, take().pos);
-        node->text = token.textValue;
-        return node;
-    }
-    case Identifier: {
-        auto node = makeNode(ExprKind::Name, take().pos);
-        node->name = token.text;
-        return node;
-    }
-    case End:
-        if (indexDepth_ == 0) expected("an expression");
-        return makeNode(ExprKind::EndIndex, take().pos);
-    case LParen: {
-        take();
-        const int outerIndexDepth = indexDepth_;
-        ExprPtr inner = parseExpr();
-        indexDepth_ = outerIndexDepth;
-        expect(RParen, "')'");
-        return inner;
-    }
-    case LBracket: return parseBracketed(RBracket, ExprKind::Matrix);
-    case LBrace: return parseBracketed(RBrace, ExprKind::CellArray);
-    default: expected("an expression");
+        case Number: {
+            auto node = makeNode(ExprKind::Number, take().pos);
+            node->number = token.number;
+            return node;
+        }
+        case CharText:
+        case StringText: {
+            auto node = makeNode(token.kind == CharText ? ExprKind::CharText : ExprKind::StringText, take().pos);
+            node->text = token.textValue;
+            return node;
+        }
+        case Identifier: {
+            auto node = makeNode(ExprKind::Name, take().pos);
+            node->name = token.text;
+            return node;
+        }
+        case End:
+            if (indexDepth_ == 0) expected("an expression");
+            return makeNode(ExprKind::EndIndex, take().pos);
+        case LParen: {
+            take();
+            const int outerIndexDepth = indexDepth_;
+            ExprPtr inner = parseExpr();
+            indexDepth_ = outerIndexDepth;
+            expect(RParen, "')'");
+            return inner;
+        }
+        case LBracket: return parseBracketed(RBracket, ExprKind::Matrix);
+        case LBrace: return parseBracketed(RBrace, ExprKind::CellArray);
+        default: expected("an expression");
     }
 }
 

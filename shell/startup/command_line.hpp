@@ -10,9 +10,9 @@ namespace orrery::shell::startup {
 struct Options {
     enum class Mode { Prompt, Script, Text, Help, Version };
     Mode mode = Mode::Prompt;
-    std::string script;                    ///< the file of Mode::Script
-    std::string text;                      ///< the code of Mode::Text
-    std::vector<std::string> scriptArgs;   ///< what follows the script or the text
+    std::string script;                   ///< the file of Mode::Script
+    std::string text;                     ///< the code of Mode::Text
+    std::vector<std::string> scriptArgs;  ///< what follows the script or the text
 };
 
 /// Reads the arguments (without the program name): "--help" or "-h",

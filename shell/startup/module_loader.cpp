@@ -20,11 +20,8 @@ constexpr std::string_view kModuleFile = "libdiagnostic.so";
 
 // The module's built-ins, bound by the names they are exported under.
 constexpr BuiltinBinding kBindings[] = {
-    {"error", "bnFullErrorFcn"},
-    {"assert", "bnFullAssertFcn"},
-    {"rethrow", "bnStructRethrowFcn"},
-    {"lasterr", "bnLastErrMsg"},
-    {"lasterror", "bnLastErrorFcn"},
+    {"error", "bnFullErrorFcn"}, {"assert", "bnFullAssertFcn"},   {"rethrow", "bnStructRethrowFcn"},
+    {"lasterr", "bnLastErrMsg"}, {"lasterror", "bnLastErrorFcn"},
 };
 
 using EntryPoint = void (*)();

@@ -35,9 +35,9 @@ void runProgram(eval::Interpreter& interpreter, std::string_view source, const s
 
 int exitStatus(RunOutcome outcome) {
     switch (outcome) {
-    case RunOutcome::Completed: return 0;
-    case RunOutcome::UserError: return 1;
-    case RunOutcome::InternalFault: return 70;
+        case RunOutcome::Completed: return 0;
+        case RunOutcome::UserError: return 1;
+        case RunOutcome::InternalFault: return 70;
     }
     return 70;
 }

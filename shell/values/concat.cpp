@@ -41,8 +41,9 @@ ClassId commonClass(const ValueRows& rows) {
                 joined = v.classId();
             } else if (isNumberLike(*first) && isNumberLike(v)) {
                 joined = joinedNumberClass(joined, v.classId());
-            } else if (!anyString && !anyCell && (v.classId() != first->classId() ||
-                                                  (v.is(ClassId::Object) && v.classInfo() != first->classInfo()))) {
+            } else if (!anyString && !anyCell &&
+                       (v.classId() != first->classId() ||
+                        (v.is(ClassId::Object) && v.classInfo() != first->classInfo()))) {
                 classClash(*first, v);
             }
         }

@@ -24,9 +24,9 @@ void copyTyped(ValueArray& dst, std::size_t to, const ValueArray& src, std::size
 
 void copySameNumeric(ValueArray& dst, std::size_t to, const ValueArray& src, std::size_t from) {
     switch (dst.classId()) {
-    case ClassId::Int64: return copyTyped<std::int64_t>(dst, to, src, from);
-    case ClassId::UInt64: return copyTyped<std::uint64_t>(dst, to, src, from);
-    default: dst.setRealAt(to, src.realAt(from));
+        case ClassId::Int64: return copyTyped<std::int64_t>(dst, to, src, from);
+        case ClassId::UInt64: return copyTyped<std::uint64_t>(dst, to, src, from);
+        default: dst.setRealAt(to, src.realAt(from));
     }
 }
 
@@ -41,8 +41,8 @@ void copyStructElement(ValueArray& dst, std::size_t to, const ValueArray& src, s
 }
 
 [[noreturn]] void noConversion(const ValueArray& v, ClassId target) {
-    except::throwMessage(ConcatenationClass(text::asciiToUtf16(v.className()),
-                                            text::asciiToUtf16(value::className(target))));
+    except::throwMessage(
+        ConcatenationClass(text::asciiToUtf16(v.className()), text::asciiToUtf16(value::className(target))));
 }
 
 std::u16string numberText(const ValueArray& v, std::size_t i) {
@@ -82,24 +82,24 @@ bool isNumberLike(const ValueArray& v) { return v.isNumeric() || v.is(ClassId::L
 ValueArray blankLike(const ValueArray& proto, Dims dims) {
     checkElementCount(static_cast<double>(dims.numel()));
     switch (proto.classId()) {
-    case ClassId::String: {
-        std::vector<std::optional<std::u16string>> missing(dims.numel());
-        return ValueArray::strings(std::move(dims), std::move(missing));
-    }
-    case ClassId::Struct: return ValueArray::structArray(std::move(dims), proto.fieldNames());
-    case ClassId::Object: return ValueArray::objectArray(proto.classInfo(), std::move(dims));
-    default: return ValueArray::zeros(proto.classId(), std::move(dims));
+        case ClassId::String: {
+            std::vector<std::optional<std::u16string>> missing(dims.numel());
+            return ValueArray::strings(std::move(dims), std::move(missing));
+        }
+        case ClassId::Struct: return ValueArray::structArray(std::move(dims), proto.fieldNames());
+        case ClassId::Object: return ValueArray::objectArray(proto.classInfo(), std::move(dims));
+        default: return ValueArray::zeros(proto.classId(), std::move(dims));
     }
 }
 
 void copyElement(ValueArray& dst, std::size_t to, const ValueArray& src, std::size_t from) {
     if (dst.classId() == src.classId() && dst.isNumeric()) return copySameNumeric(dst, to, src, from);
     switch (dst.classId()) {
-    case ClassId::String: return dst.setStringAt(to, src.stringAt(from));
-    case ClassId::Cell: return dst.setCellAt(to, src.cellAt(from));
-    case ClassId::Struct: return copyStructElement(dst, to, src, from);
-    case ClassId::Object: return dst.setObjectAt(to, src.objectAt(from));
-    default: dst.setRealAt(to, src.realAt(from));
+        case ClassId::String: return dst.setStringAt(to, src.stringAt(from));
+        case ClassId::Cell: return dst.setCellAt(to, src.cellAt(from));
+        case ClassId::Struct: return copyStructElement(dst, to, src, from);
+        case ClassId::Object: return dst.setObjectAt(to, src.objectAt(from));
+        default: dst.setRealAt(to, src.realAt(from));
     }
 }
 

@@ -60,7 +60,8 @@ ValueArray resized(const ValueArray& a, const Dims& dims) {
 // The size after a linear index reaches `needed` places.
 Dims grownLinear(const Dims& dims, std::size_t needed) {
     if (needed <= dims.numel()) return dims;
-    if (dims.numel() == 0) return dims.count() == 2 && dims.cols() == 1 && dims.rows() == 0 ? Dims{needed, 1} : Dims{1, needed};
+    if (dims.numel() == 0)
+        return dims.count() == 2 && dims.cols() == 1 && dims.rows() == 0 ? Dims{needed, 1} : Dims{1, needed};
     if (dims.count() == 2 && dims.rows() == 1) return Dims{1, needed};
     if (dims.count() == 2 && dims.cols() == 1) return Dims{needed, 1};
     except::throwMessage(AmbiguousGrowth());
@@ -115,8 +116,8 @@ ValueArray deleteSlices(const ValueArray& a, const std::vector<IndexArg>& args) 
     const std::size_t n = args.size();
     std::size_t slicing = n;
     for (std::size_t k = 0; k < n; ++k) {
-        const bool whole = args[k].colon || indexPositions(args[k], endValue(a.dims(), k, n)).size() ==
-                                                endValue(a.dims(), k, n);
+        const bool whole =
+            args[k].colon || indexPositions(args[k], endValue(a.dims(), k, n)).size() == endValue(a.dims(), k, n);
         if (whole) continue;
         if (slicing != n) except::throwMessage(DeletionShape());
         slicing = k;

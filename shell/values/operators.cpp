@@ -26,13 +26,26 @@ struct OperatorName {
 };
 
 constexpr OperatorName kOperatorNames[] = {
-    {Op::Plus, "+", "plus"},          {Op::Minus, "-", "minus"},          {Op::Not, "~", "not"},
-    {Op::Times, "*", "mtimes"},       {Op::Divide, "/", "mrdivide"},      {Op::LeftDivide, "\\", "mldivide"},
-    {Op::Power, "^", "mpower"},       {Op::ElementTimes, ".*", "times"},  {Op::ElementDivide, "./", "rdivide"},
-    {Op::ElementLeftDivide, ".\\", "ldivide"}, {Op::ElementPower, ".^", "power"},
-    {Op::Equal, "==", "eq"},          {Op::NotEqual, "~=", "ne"},         {Op::Less, "<", "lt"},
-    {Op::LessEqual, "<=", "le"},      {Op::Greater, ">", "gt"},           {Op::GreaterEqual, ">=", "ge"},
-    {Op::And, "&", "and"},            {Op::Or, "|", "or"},                {Op::AndAnd, "&&", ""},
+    {Op::Plus, "+", "plus"},
+    {Op::Minus, "-", "minus"},
+    {Op::Not, "~", "not"},
+    {Op::Times, "*", "mtimes"},
+    {Op::Divide, "/", "mrdivide"},
+    {Op::LeftDivide, "\\", "mldivide"},
+    {Op::Power, "^", "mpower"},
+    {Op::ElementTimes, ".*", "times"},
+    {Op::ElementDivide, "./", "rdivide"},
+    {Op::ElementLeftDivide, ".\\", "ldivide"},
+    {Op::ElementPower, ".^", "power"},
+    {Op::Equal, "==", "eq"},
+    {Op::NotEqual, "~=", "ne"},
+    {Op::Less, "<", "lt"},
+    {Op::LessEqual, "<=", "le"},
+    {Op::Greater, ">", "gt"},
+    {Op::GreaterEqual, ">=", "ge"},
+    {Op::And, "&", "and"},
+    {Op::Or, "|", "or"},
+    {Op::AndAnd, "&&", ""},
     {Op::OrOr, "||", ""},
 };
 
@@ -54,21 +67,25 @@ bool isComparison(Op op) {
 
 double applyScalar(Op op, double x, double y) {
     switch (op) {
-    case Op::Plus: return x + y;
-    case Op::Minus: return x - y;
-    case Op::Times: case Op::ElementTimes: return x * y;
-    case Op::Divide: case Op::ElementDivide: return x / y;
-    case Op::LeftDivide: case Op::ElementLeftDivide: return y / x;
-    case Op::Power: case Op::ElementPower: return std::pow(x, y);
-    case Op::Equal: return x == y;
-    case Op::NotEqual: return x != y;
-    case Op::Less: return x < y;
-    case Op::LessEqual: return x <= y;
-    case Op::Greater: return x > y;
-    case Op::GreaterEqual: return x >= y;
-    case Op::And: return x != 0 && y != 0;
-    case Op::Or: return x != 0 || y != 0;
-    default: return 0;
+        case Op::Plus: return x + y;
+        case Op::Minus: return x - y;
+        case Op::Times:
+        case Op::ElementTimes: return x * y;
+        case Op::Divide:
+        case Op::ElementDivide: return x / y;
+        case Op::LeftDivide:
+        case Op::ElementLeftDivide: return y / x;
+        case Op::Power:
+        case Op::ElementPower: return std::pow(x, y);
+        case Op::Equal: return x == y;
+        case Op::NotEqual: return x != y;
+        case Op::Less: return x < y;
+        case Op::LessEqual: return x <= y;
+        case Op::Greater: return x > y;
+        case Op::GreaterEqual: return x >= y;
+        case Op::And: return x != 0 && y != 0;
+        case Op::Or: return x != 0 || y != 0;
+        default: return 0;
     }
 }
 
@@ -151,18 +168,17 @@ ValueArray binaryOperation(Op op, const ValueArray& a, const ValueArray& b) {
     if (!isNumberLike(a) || !isNumberLike(b)) unsupported(op, a, b);
     const bool scalarOperand = a.isScalar() || b.isScalar();
     switch (op) {
-    case Op::Times:
-        return scalarOperand ? elementWise(op, a, b) : matrixProduct(a, b);
-    case Op::Divide:
-        if (!b.isScalar()) except::throwMessage(MatrixOperation(u"/", u"./"));
-        break;
-    case Op::LeftDivide:
-        if (!a.isScalar()) except::throwMessage(MatrixOperation(u"\\", u".\\"));
-        break;
-    case Op::Power:
-        if (!a.isScalar() || !b.isScalar()) except::throwMessage(MatrixOperation(u"^", u".^"));
-        break;
-    default: break;
+        case Op::Times: return scalarOperand ? elementWise(op, a, b) : matrixProduct(a, b);
+        case Op::Divide:
+            if (!b.isScalar()) except::throwMessage(MatrixOperation(u"/", u"./"));
+            break;
+        case Op::LeftDivide:
+            if (!a.isScalar()) except::throwMessage(MatrixOperation(u"\\", u".\\"));
+            break;
+        case Op::Power:
+            if (!a.isScalar() || !b.isScalar()) except::throwMessage(MatrixOperation(u"^", u".^"));
+            break;
+        default: break;
     }
     return elementWise(op, a, b);
 }

@@ -1,8 +1,8 @@
 // Display of values: the one-line forms, bodies of the other kinds, and what
 // disp shows, including values that are hard to show. Cells and most display
 // forms are proved by the display_* script tests.
-#include "tests/support/builtin_call.hpp"
 #include "shell/display.hpp"
+#include "tests/support/builtin_call.hpp"
 
 #include <gtest/gtest.h>
 
@@ -16,9 +16,7 @@ using value::ClassId;
 using value::Dims;
 using value::ValueArray;
 
-namespace {
-
-}  // namespace
+namespace {}  // namespace
 
 TEST(Display, ShowsEachKindOfValue) {
     ValueArray structValue = ValueArray::structArray(Dims{1, 1}, {"id", "unset"});

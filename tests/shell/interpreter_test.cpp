@@ -19,7 +19,6 @@
 #include <orrery/ocos/prop_template.hpp>
 #include <orrery/ocos/registry.hpp>
 
-
 using namespace orrery;
 using orrery::testing::userErrorOf;
 using value::ValueArray;

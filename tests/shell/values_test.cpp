@@ -1,9 +1,9 @@
 // Operations on values: the refusals of operators, indexed assignment and
 // concatenation, class rules, ranges and conditions.
-#include "tests/support/builtin_call.hpp"
 #include "shell/values/concat.hpp"
 #include "shell/values/indexing.hpp"
 #include "shell/values/operators.hpp"
+#include "tests/support/builtin_call.hpp"
 
 #include "tests/support/expect_error.hpp"
 

@@ -31,6 +31,6 @@ private:
 
 /// Switches to a decimal-comma locale for the rest of the scope, or skips the test
 /// when none is installed (scripts/setup.sh generates de_DE.UTF-8).
-#define ORRERY_USE_DECIMAL_COMMA_LOCALE()                                                  \
-    const ::orrery::testing::DecimalCommaLocale decimalCommaLocale__;                      \
+#define ORRERY_USE_DECIMAL_COMMA_LOCALE()                             \
+    const ::orrery::testing::DecimalCommaLocale decimalCommaLocale__; \
     if (!::orrery::testing::DecimalCommaLocale::active()) GTEST_SKIP() << "no decimal-comma locale installed"

@@ -9,37 +9,36 @@
 #include <string>
 
 /// Runs statement and expects a catalogued failure with the identifier.
-#define EXPECT_MSGID(statement, expectedIdentifier)                                      \
-    do {                                                                                 \
-        try {                                                                            \
-            statement;                                                                   \
-            ADD_FAILURE() << "expected " << (expectedIdentifier) << ", nothing raised";  \
-        } catch (const ::orrery::except::IMsgIDException& failure__) {                   \
-            EXPECT_EQ(failure__.identifier(), std::string(expectedIdentifier))           \
-                << "text: " << failure__.what();                                         \
-        }                                                                                \
+#define EXPECT_MSGID(statement, expectedIdentifier)                                                             \
+    do {                                                                                                        \
+        try {                                                                                                   \
+            statement;                                                                                          \
+            ADD_FAILURE() << "expected " << (expectedIdentifier) << ", nothing raised";                         \
+        } catch (const ::orrery::except::IMsgIDException& failure__) {                                          \
+            EXPECT_EQ(failure__.identifier(), std::string(expectedIdentifier)) << "text: " << failure__.what(); \
+        }                                                                                                       \
     } while (false)
 
 /// Runs statement and expects a catalogued failure with identifier and exact text.
-#define EXPECT_MSGID_TEXT(statement, expectedIdentifier, expectedText)                   \
-    do {                                                                                 \
-        try {                                                                            \
-            statement;                                                                   \
-            ADD_FAILURE() << "expected " << (expectedIdentifier) << ", nothing raised";  \
-        } catch (const ::orrery::except::IMsgIDException& failure__) {                   \
-            EXPECT_EQ(failure__.identifier(), std::string(expectedIdentifier));          \
-            EXPECT_STREQ(failure__.what(), expectedText);                                \
-        }                                                                                \
+#define EXPECT_MSGID_TEXT(statement, expectedIdentifier, expectedText)                  \
+    do {                                                                                \
+        try {                                                                           \
+            statement;                                                                  \
+            ADD_FAILURE() << "expected " << (expectedIdentifier) << ", nothing raised"; \
+        } catch (const ::orrery::except::IMsgIDException& failure__) {                  \
+            EXPECT_EQ(failure__.identifier(), std::string(expectedIdentifier));         \
+            EXPECT_STREQ(failure__.what(), expectedText);                               \
+        }                                                                               \
     } while (false)
 
 /// Runs statement and expects a user error (QException) with the identifier.
-#define EXPECT_QEXCEPTION(statement, expectedIdentifier, expectedMessageUtf8)           \
-    do {                                                                                 \
-        try {                                                                            \
-            statement;                                                                   \
-            ADD_FAILURE() << "expected a user error, nothing raised";                    \
-        } catch (const ::orrery::except::QException& error__) {                          \
-            EXPECT_EQ(error__.identifier(), std::string(expectedIdentifier));            \
-            EXPECT_STREQ(error__.what(), expectedMessageUtf8);                           \
-        }                                                                                \
+#define EXPECT_QEXCEPTION(statement, expectedIdentifier, expectedMessageUtf8) \
+    do {                                                                      \
+        try {                                                                 \
+            statement;                                                        \
+            ADD_FAILURE() << "expected a user error, nothing raised";         \
+        } catch (const ::orrery::except::QException& error__) {               \
+            EXPECT_EQ(error__.identifier(), std::string(expectedIdentifier)); \
+            EXPECT_STREQ(error__.what(), expectedMessageUtf8);                \
+        }                                                                     \
     } while (false)

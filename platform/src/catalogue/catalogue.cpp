@@ -1,8 +1,8 @@
 // Message catalogue on an ICU resource bundle of nested tables, one level per
 // identifier component, formatted with ICU MessageFormat.
-#include <orrery/except/internal_error.hpp>
 #include <orrery/catalogue/catalogue.hpp>
 #include <orrery/catalogue/message_content.hpp>
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
@@ -106,7 +106,8 @@ std::u16string formatMessage(std::string_view identifier, std::span<const Messag
     icu::FieldPosition position;
     format.format(values.data(), static_cast<int32_t>(values.size()), result, position, status);
     if (U_FAILURE(status)) except::throwMessage(ArgumentMismatch(text::utf8ToUtf16(identifier)));
-    return std::u16string(reinterpret_cast<const char16_t*>(result.getBuffer()), static_cast<std::size_t>(result.length()));
+    return std::u16string(reinterpret_cast<const char16_t*>(result.getBuffer()),
+                          static_cast<std::size_t>(result.length()));
 }
 
 std::string formatMessageUtf8(std::string_view identifier, std::span<const MessageArgument> arguments) {

@@ -13,7 +13,8 @@ std::string MessageID::identifier() const { return component + ":" + mnemonic; }
 std::u16string MessageID::text() const { return catalogue::formatMessage(identifier(), arguments); }
 
 IMsgIDException::IMsgIDException(std::string identifier, MessageID key)
-    : identifier_(std::move(identifier)), key_(std::move(key)),
+    : identifier_(std::move(identifier)),
+      key_(std::move(key)),
       text_(catalogue::formatMessageUtf8(key_.identifier(), key_.arguments)) {}
 
 IMsgIDException::~IMsgIDException() = default;

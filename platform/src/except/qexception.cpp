@@ -28,12 +28,17 @@ std::string describe(const std::u16string& message) {
 
 QException::QException(std::string identifier, std::u16string message, value::ValueArray stack,
                        std::string functionName)
-    : identifier_(std::move(identifier)), message_(std::move(message)), stack_(std::move(stack)),
-      functionName_(std::move(functionName)), text_(describe(message_)) {}
+    : identifier_(std::move(identifier)),
+      message_(std::move(message)),
+      stack_(std::move(stack)),
+      functionName_(std::move(functionName)),
+      text_(describe(message_)) {}
 
 QException::QException(QExceptionEnvelope&& envelope)
-    : identifier_(std::move(envelope.identifier_)), message_(std::move(envelope.message_)),
-      stack_(std::move(*envelope.stack_)), functionName_(std::move(envelope.functionName_)),
+    : identifier_(std::move(envelope.identifier_)),
+      message_(std::move(envelope.message_)),
+      stack_(std::move(*envelope.stack_)),
+      functionName_(std::move(envelope.functionName_)),
       text_(describe(message_)) {}
 
 QException::~QException() = default;

@@ -1,6 +1,6 @@
 // One conversion of one element: numbers through snprintf, texts padded in UTF-16 units.
-#include <orrery/except/internal_error.hpp>
 #include "format_conversion.hpp"
+#include <orrery/except/internal_error.hpp>
 
 #include <orrery/text/text.hpp>
 
@@ -58,10 +58,14 @@ std::u16string asExponent(const ResolvedConversion& conversion, double value) {
 std::u16string nonFinite(const ResolvedConversion& conversion, double value) {
     const ConversionFlags& flags = conversion.flags;
     std::u16string body = u"Inf";
-    if (std::isnan(value)) body = u"NaN";
-    else if (value < 0) body = u"-Inf";
-    else if (flags.plusSign) body = u"+Inf";
-    else if (flags.spaceSign) body = u" Inf";
+    if (std::isnan(value))
+        body = u"NaN";
+    else if (value < 0)
+        body = u"-Inf";
+    else if (flags.plusSign)
+        body = u"+Inf";
+    else if (flags.spaceSign)
+        body = u" Inf";
     return pad(conversion, std::move(body));
 }
 
@@ -69,9 +73,11 @@ std::u16string formatInteger(const ResolvedConversion& conversion, const Number&
     const char type = conversion.type;
     const bool isSigned = type == 'd' || type == 'i';
     if (const auto* whole = std::get_if<std::int64_t>(&number.exact)) {
-        if (isSigned) return printC(cFormat(conversion, type, "ll", conversion.precision), static_cast<long long>(*whole));
+        if (isSigned)
+            return printC(cFormat(conversion, type, "ll", conversion.precision), static_cast<long long>(*whole));
         if (*whole >= 0)
-            return printC(cFormat(conversion, type, "ll", conversion.precision), static_cast<unsigned long long>(*whole));
+            return printC(cFormat(conversion, type, "ll", conversion.precision),
+                          static_cast<unsigned long long>(*whole));
     } else if (const auto* positive = std::get_if<std::uint64_t>(&number.exact)) {
         return printC(cFormat(conversion, isSigned ? 'u' : type, "ll", conversion.precision),
                       static_cast<unsigned long long>(*positive));
@@ -110,14 +116,14 @@ std::u16string formatElement(const ResolvedConversion& conversion, const Element
     const Number& number = std::get<Number>(element);
     if (!std::isfinite(number.value)) return nonFinite(conversion, number.value);
     switch (conversion.type) {
-    case 'c': return formatCharacter(conversion, number);
-    case 's': return formatNumberAsText(conversion, number);
-    case 'f':
-    case 'e':
-    case 'E':
-    case 'g':
-    case 'G': return printC(cFormat(conversion, conversion.type, "", conversion.precision), number.value);
-    default: return formatInteger(conversion, number);
+        case 'c': return formatCharacter(conversion, number);
+        case 's': return formatNumberAsText(conversion, number);
+        case 'f':
+        case 'e':
+        case 'E':
+        case 'g':
+        case 'G': return printC(cFormat(conversion, conversion.type, "", conversion.precision), number.value);
+        default: return formatInteger(conversion, number);
     }
 }
 

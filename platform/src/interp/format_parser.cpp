@@ -15,24 +15,27 @@ constexpr std::u16string_view conversionTypes = u"diuoxXcsfeEgG";
 
 std::optional<int> digitValue(char16_t unit, int base) {
     int value = -1;
-    if (unit >= u'0' && unit <= u'9') value = unit - u'0';
-    else if (unit >= u'a' && unit <= u'f') value = unit - u'a' + 10;
-    else if (unit >= u'A' && unit <= u'F') value = unit - u'A' + 10;
+    if (unit >= u'0' && unit <= u'9')
+        value = unit - u'0';
+    else if (unit >= u'a' && unit <= u'f')
+        value = unit - u'a' + 10;
+    else if (unit >= u'A' && unit <= u'F')
+        value = unit - u'A' + 10;
     if (value < 0 || value >= base) return std::nullopt;
     return value;
 }
 
 std::optional<char16_t> simpleEscape(char16_t unit) {
     switch (unit) {
-    case u'n': return u'\n';
-    case u't': return u'\t';
-    case u'\\': return u'\\';
-    case u'a': return u'\a';
-    case u'b': return u'\b';
-    case u'f': return u'\f';
-    case u'r': return u'\r';
-    case u'v': return u'\v';
-    default: return std::nullopt;
+        case u'n': return u'\n';
+        case u't': return u'\t';
+        case u'\\': return u'\\';
+        case u'a': return u'\a';
+        case u'b': return u'\b';
+        case u'f': return u'\f';
+        case u'r': return u'\r';
+        case u'v': return u'\v';
+        default: return std::nullopt;
     }
 }
 
@@ -57,9 +60,7 @@ public:
     }
 
 private:
-    char16_t peek(std::size_t ahead) const {
-        return pos_ + ahead < format_.size() ? format_[pos_ + ahead] : u'\0';
-    }
+    char16_t peek(std::size_t ahead) const { return pos_ + ahead < format_.size() ? format_[pos_ + ahead] : u'\0'; }
 
     void flushLiteral() {
         if (!literal_.empty()) items_.emplace_back(std::move(literal_));
@@ -100,12 +101,12 @@ private:
     void readFlags(ConversionFlags& flags) {
         for (;; ++pos_) {
             switch (peek(0)) {
-            case u'-': flags.leftAlign = true; break;
-            case u'+': flags.plusSign = true; break;
-            case u' ': flags.spaceSign = true; break;
-            case u'0': flags.zeroPad = true; break;
-            case u'#': flags.alternate = true; break;
-            default: return;
+                case u'-': flags.leftAlign = true; break;
+                case u'+': flags.plusSign = true; break;
+                case u' ': flags.spaceSign = true; break;
+                case u'0': flags.zeroPad = true; break;
+                case u'#': flags.alternate = true; break;
+                default: return;
             }
         }
     }

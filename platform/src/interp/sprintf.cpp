@@ -82,8 +82,7 @@ std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data)
 value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values) {
     if (count < 1 || values == nullptr) except::throwNotEnoughInputs();
     const value::ValueArray* format = values[0];
-    if (format == nullptr || !format->isTextScalarTolerant())
-        except::throwMessage(detail::MissingStringArgument());
+    if (format == nullptr || !format->isTextScalarTolerant()) except::throwMessage(detail::MissingStringArgument());
     const auto items = detail::parseFormat(format->text());
     ArgumentCursor data({values + 1, static_cast<std::size_t>(count - 1)});
     // A format without conversions, or a call without data, prints the literal text once.

@@ -52,20 +52,19 @@ Element ArgumentCursor::next() {
     const std::size_t i = element_;
     advance(1);
     switch (argument.classId()) {
-    case ClassId::String: {
-        const auto& element = argument.stringAt(i);
-        return Text{element ? *element : std::u16string(u"<missing>")};
-    }
-    case ClassId::Int64: {
-        const std::int64_t whole = argument.data<std::int64_t>()[i];
-        return Number{static_cast<double>(whole), whole};
-    }
-    case ClassId::UInt64: {
-        const std::uint64_t whole = argument.data<std::uint64_t>()[i];
-        return Number{static_cast<double>(whole), whole};
-    }
-    default:
-        return makeNumber(argument.realAt(i));
+        case ClassId::String: {
+            const auto& element = argument.stringAt(i);
+            return Text{element ? *element : std::u16string(u"<missing>")};
+        }
+        case ClassId::Int64: {
+            const std::int64_t whole = argument.data<std::int64_t>()[i];
+            return Number{static_cast<double>(whole), whole};
+        }
+        case ClassId::UInt64: {
+            const std::uint64_t whole = argument.data<std::uint64_t>()[i];
+            return Number{static_cast<double>(whole), whole};
+        }
+        default: return makeNumber(argument.realAt(i));
     }
 }
 

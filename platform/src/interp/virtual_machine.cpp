@@ -26,8 +26,7 @@ std::shared_ptr<console::ConsoleSink> VirtualMachine::setConsole(std::shared_ptr
 
 VirtualMachine* currentLocalVirtualMachine() noexcept { return currentMachine; }
 
-VirtualMachineScope::VirtualMachineScope()
-    : machine_(std::make_unique<VirtualMachine>()), previous_(currentMachine) {
+VirtualMachineScope::VirtualMachineScope() : machine_(std::make_unique<VirtualMachine>()), previous_(currentMachine) {
     currentMachine = machine_.get();
 }
 

@@ -43,12 +43,12 @@ PrintfArgument argumentOf(const ValueArray& element, std::size_t position) {
     if (element.isTextScalarTolerant()) return PrintfArgument(element.text());
     if (element.isScalar()) {
         switch (element.classId()) {
-        case ClassId::Int32: return PrintfArgument(element.data<std::int32_t>()[0]);
-        case ClassId::UInt32: return PrintfArgument(element.data<std::uint32_t>()[0]);
-        case ClassId::Int64: return PrintfArgument(element.data<std::int64_t>()[0]);
-        case ClassId::UInt64: return PrintfArgument(element.data<std::uint64_t>()[0]);
-        case ClassId::Double: return PrintfArgument(element.data<double>()[0]);
-        default: break;
+            case ClassId::Int32: return PrintfArgument(element.data<std::int32_t>()[0]);
+            case ClassId::UInt32: return PrintfArgument(element.data<std::uint32_t>()[0]);
+            case ClassId::Int64: return PrintfArgument(element.data<std::int64_t>()[0]);
+            case ClassId::UInt64: return PrintfArgument(element.data<std::uint64_t>()[0]);
+            case ClassId::Double: return PrintfArgument(element.data<double>()[0]);
+            default: break;
         }
     }
     except::throwMessage(messages::BadArgument(position));

@@ -16,8 +16,8 @@ COSClassInfo::~COSClassInfo() = default;
 void COSClassInfo::addProperty(COSPropInfo property) {
     validateType(property.getType(), fullName_);
     if (findProperty(property.getName().view()) != nullptr) {
-        except::internalError("class system", "" + fullName_ + " declares property \"" + property.getName().str() +
-                               "\" twice");
+        except::internalError("class system",
+                              "" + fullName_ + " declares property \"" + property.getName().str() + "\" twice");
     }
     properties_.push_back(std::move(property));
 }

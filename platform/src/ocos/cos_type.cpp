@@ -76,18 +76,12 @@ COSType::COSType(std::string_view text) : text_(intern(text)), kind_(parseKind(t
 
 std::optional<PropertyValue> COSType::convert(const ValueArray& value) const {
     switch (kind_) {
-        case COSTypeKind::AsciiString:
-            return toAscii(value);
-        case COSTypeKind::UnicodeString:
-            return toUnicode(value);
-        case COSTypeKind::Cell:
-            return ifClass(value, ClassId::Cell);
-        case COSTypeKind::Struct:
-            return ifClass(value, ClassId::Struct);
-        case COSTypeKind::Double:
-            return ifClass(value, ClassId::Double);
-        case COSTypeKind::Logical:
-            return ifClass(value, ClassId::Logical);
+        case COSTypeKind::AsciiString: return toAscii(value);
+        case COSTypeKind::UnicodeString: return toUnicode(value);
+        case COSTypeKind::Cell: return ifClass(value, ClassId::Cell);
+        case COSTypeKind::Struct: return ifClass(value, ClassId::Struct);
+        case COSTypeKind::Double: return ifClass(value, ClassId::Double);
+        case COSTypeKind::Logical: return ifClass(value, ClassId::Logical);
         case COSTypeKind::DoubleScalar:
             if (!value.is(ClassId::Double) || !value.isScalar()) return std::nullopt;
             return value.realAt(0);

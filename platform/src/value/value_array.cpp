@@ -29,22 +29,22 @@ T convertNumber(double value) {
 
 Store makeStore(ClassId id, std::size_t n) {
     switch (id) {
-    case ClassId::Double: return std::vector<double>(n);
-    case ClassId::Single: return std::vector<float>(n);
-    case ClassId::Int8: return std::vector<std::int8_t>(n);
-    case ClassId::UInt8: return std::vector<std::uint8_t>(n);
-    case ClassId::Int16: return std::vector<std::int16_t>(n);
-    case ClassId::UInt16: return std::vector<std::uint16_t>(n);
-    case ClassId::Int32: return std::vector<std::int32_t>(n);
-    case ClassId::UInt32: return std::vector<std::uint32_t>(n);
-    case ClassId::Int64: return std::vector<std::int64_t>(n);
-    case ClassId::UInt64: return std::vector<std::uint64_t>(n);
-    case ClassId::Logical: return LogicalStore{std::vector<std::uint8_t>(n)};
-    case ClassId::Char: return std::u16string(n, u'\0');
-    case ClassId::String: return StringStore{std::vector<std::optional<std::u16string>>(n, std::u16string())};
-    case ClassId::Cell: return CellStore{std::vector<ValueArray>(n)};
-    case ClassId::Struct: return StructStore{{}, {}, n};
-    case ClassId::Object: return ObjectStore{nullptr, std::vector<std::shared_ptr<ocos::COSObject>>(n)};
+        case ClassId::Double: return std::vector<double>(n);
+        case ClassId::Single: return std::vector<float>(n);
+        case ClassId::Int8: return std::vector<std::int8_t>(n);
+        case ClassId::UInt8: return std::vector<std::uint8_t>(n);
+        case ClassId::Int16: return std::vector<std::int16_t>(n);
+        case ClassId::UInt16: return std::vector<std::uint16_t>(n);
+        case ClassId::Int32: return std::vector<std::int32_t>(n);
+        case ClassId::UInt32: return std::vector<std::uint32_t>(n);
+        case ClassId::Int64: return std::vector<std::int64_t>(n);
+        case ClassId::UInt64: return std::vector<std::uint64_t>(n);
+        case ClassId::Logical: return LogicalStore{std::vector<std::uint8_t>(n)};
+        case ClassId::Char: return std::u16string(n, u'\0');
+        case ClassId::String: return StringStore{std::vector<std::optional<std::u16string>>(n, std::u16string())};
+        case ClassId::Cell: return CellStore{std::vector<ValueArray>(n)};
+        case ClassId::Struct: return StructStore{{}, {}, n};
+        case ClassId::Object: return ObjectStore{nullptr, std::vector<std::shared_ptr<ocos::COSObject>>(n)};
     }
     return std::vector<double>(n);
 }
@@ -55,22 +55,23 @@ template <class T>
 constexpr bool isNumericStore<std::vector<T>> = std::is_arithmetic_v<T>;
 
 [[noreturn]] void wrongClass(ClassId expected, ClassId actual) {
-    except::throwMessage(except::host::WrongClass(text::asciiToUtf16(className(expected)),
-                                                  text::asciiToUtf16(className(actual))));
+    except::throwMessage(
+        except::host::WrongClass(text::asciiToUtf16(className(expected)), text::asciiToUtf16(className(actual))));
 }
 
 }  // namespace
 
 std::string_view className(ClassId id) {
-    static constexpr std::string_view names[] = {"double", "single", "int8",    "uint8",  "int16",  "uint16",
-                                                 "int32",  "uint32", "int64",   "uint64", "logical", "char",
+    static constexpr std::string_view names[] = {"double", "single", "int8",   "uint8",  "int16",   "uint16",
+                                                 "int32",  "uint32", "int64",  "uint64", "logical", "char",
                                                  "string", "cell",   "struct", "object"};
     return names[static_cast<std::size_t>(id)];
 }
 
 // ---- special members -----------------------------------------------------------
 
-ValueArray::ValueArray() : ValueArray(ClassId::Double, Dims{0, 0}, std::make_shared<Data>(Data{std::vector<double>()})) {}
+ValueArray::ValueArray()
+    : ValueArray(ClassId::Double, Dims{0, 0}, std::make_shared<Data>(Data{std::vector<double>()})) {}
 ValueArray::ValueArray(ClassId id, Dims dims, std::shared_ptr<Data> data)
     : classId_(id), dims_(std::move(dims)), data_(std::move(data)) {}
 ValueArray::~ValueArray() = default;
@@ -185,8 +186,10 @@ double ValueArray::realAt(std::size_t i) const {
     return std::visit(
         [i](const auto& store) -> double {
             using S = std::decay_t<decltype(store)>;
-            if constexpr (isNumericStore<S>) return static_cast<double>(store[i]);
-            else return 0.0;
+            if constexpr (isNumericStore<S>)
+                return static_cast<double>(store[i]);
+            else
+                return 0.0;
         },
         data_->store);
 }
@@ -202,8 +205,7 @@ void ValueArray::setRealAt(std::size_t i, double value) {
     std::visit(
         [i, value](auto& store) {
             using S = std::decay_t<decltype(store)>;
-            if constexpr (isNumericStore<S>)
-                store[i] = convertNumber<typename S::value_type>(value);
+            if constexpr (isNumericStore<S>) store[i] = convertNumber<typename S::value_type>(value);
         },
         mutate().store);
 }
@@ -220,7 +222,7 @@ std::span<T> ValueArray::mutableData() {
     return std::get<std::vector<T>>(mutate().store);
 }
 
-#define ORRERY_INSTANTIATE_DATA(T)                                        \
+#define ORRERY_INSTANTIATE_DATA(T)                                      \
     template ORRERY_API std::span<const T> ValueArray::data<T>() const; \
     template ORRERY_API std::span<T> ValueArray::mutableData<T>();
 ORRERY_INSTANTIATE_DATA(double)

@@ -34,11 +34,10 @@ struct ObjectStore {
 };
 
 /// The alternative's index equals the ClassId of the value.
-using Store = std::variant<std::vector<double>, std::vector<float>, std::vector<std::int8_t>,
-                           std::vector<std::uint8_t>, std::vector<std::int16_t>, std::vector<std::uint16_t>,
-                           std::vector<std::int32_t>, std::vector<std::uint32_t>, std::vector<std::int64_t>,
-                           std::vector<std::uint64_t>, LogicalStore, std::u16string, StringStore, CellStore,
-                           StructStore, ObjectStore>;
+using Store = std::variant<std::vector<double>, std::vector<float>, std::vector<std::int8_t>, std::vector<std::uint8_t>,
+                           std::vector<std::int16_t>, std::vector<std::uint16_t>, std::vector<std::int32_t>,
+                           std::vector<std::uint32_t>, std::vector<std::int64_t>, std::vector<std::uint64_t>,
+                           LogicalStore, std::u16string, StringStore, CellStore, StructStore, ObjectStore>;
 
 struct ValueArray::Data {
     Store store;

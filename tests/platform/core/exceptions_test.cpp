@@ -24,10 +24,15 @@ TEST(ThrowMessage, RaisesTheKeysOwnTypeAfterReportingToTheLegacyLayer) {
 }
 
 TEST(ArgumentErrors, CheckOutputsBeforeInputs) {
-    struct Case { int nlhs, maxOut, nrhs, minIn, maxIn; const char* id; };
+    struct Case {
+        int nlhs, maxOut, nrhs, minIn, maxIn;
+        const char* id;
+    };
     const Case cases[] = {
-        {1, 0, 5, 0, 0, "ORRERY:tooManyOutputs"},  {0, 0, 2, 0, 1, "ORRERY:tooManyInputs"},
-        {0, 0, 0, 1, 3, "ORRERY:notEnoughInputs"}, {0, 0, -1, 0, 0, "ORRERY:notEnoughInputs"},
+        {1, 0, 5, 0, 0, "ORRERY:tooManyOutputs"},
+        {0, 0, 2, 0, 1, "ORRERY:tooManyInputs"},
+        {0, 0, 0, 1, 3, "ORRERY:notEnoughInputs"},
+        {0, 0, -1, 0, 0, "ORRERY:notEnoughInputs"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.id);

@@ -39,7 +39,9 @@ TEST(Text, LossyConversionsReplaceWhatTheStrictOnesRefuse) {
     const std::pair<std::u16string, std::string> toUtf8[] = {
         {u"caf\u00E9", "caf\xC3\xA9"},
         {u"\xD83D\xDE00", "\xF0\x9F\x98\x80"},
-        {std::u16string(u"a") + char16_t(0xD800) + u"b", "a\xEF\xBF\xBD" "b"},
+        {std::u16string(u"a") + char16_t(0xD800) + u"b",
+         "a\xEF\xBF\xBD"
+         "b"},
         {std::u16string(1, char16_t(0xDC00)) + u"\xD83D\xDE00", "\xEF\xBF\xBD\xF0\x9F\x98\x80"},
     };
     for (const auto& [utf16, utf8] : toUtf8) {

@@ -54,7 +54,11 @@ TEST(ValueArray, RejectsOutOfRangeIndexAndWrongClass) {
 }
 
 TEST(ValueArray, TextScalarTests) {
-    struct Case { ValueArray value; bool strict; bool tolerant; };
+    struct Case {
+        ValueArray value;
+        bool strict;
+        bool tolerant;
+    };
     const Case cases[] = {
         {ValueArray::chars(u"abc"), true, true}, {ValueArray::charArray(Dims{1, 0}, u""), true, true},
         {ValueArray::chars(u""), false, true},   {ValueArray::charArray(Dims{2, 1}, u"ab"), false, false},

@@ -16,8 +16,10 @@ namespace {
 class LocalTime : public testing::Test {
 protected:
     static void useZone(const char* zone) {
-        if (zone != nullptr) ::setenv("TZ", zone, 1);
-        else ::unsetenv("TZ");
+        if (zone != nullptr)
+            ::setenv("TZ", zone, 1);
+        else
+            ::unsetenv("TZ");
         ::tzset();
     }
     void TearDown() override { useZone(previous_ ? previous_->c_str() : nullptr); }
@@ -33,11 +35,17 @@ constexpr std::time_t midJuly2024 = 1719835200;     // 2024-07-01 12:00 UTC
 }  // namespace
 
 TEST_F(LocalTime, UtcOffsetIsTheStandardOneAllYearAndNowIsTheLocalWallClock) {
-    struct Case { const char* zone; std::time_t when; UtcOffset expected; };
+    struct Case {
+        const char* zone;
+        std::time_t when;
+        UtcOffset expected;
+    };
     // Summer time is in force at the northern zones in July and at Chatham in January.
     const Case cases[] = {
-        {"America/New_York", midJuly2024, {-5, 0}}, {"America/St_Johns", midJuly2024, {-3, -30}},
-        {"Europe/Berlin", midJuly2024, {1, 0}},     {"Pacific/Chatham", midJanuary2024, {12, 45}},
+        {"America/New_York", midJuly2024, {-5, 0}},
+        {"America/St_Johns", midJuly2024, {-3, -30}},
+        {"Europe/Berlin", midJuly2024, {1, 0}},
+        {"Pacific/Chatham", midJanuary2024, {12, 45}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << c.zone << " at " << c.when);

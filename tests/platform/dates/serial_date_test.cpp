@@ -20,11 +20,14 @@ static double serialOf(double y, double mo, double d, double h = 0, double mi = 
 
 // Reference day numbers computed independently from proleptic Gregorian ordinals.
 TEST(SerialDate, KnownDaysHaveTheirReferenceNumbers) {
-    struct Case { int year, month, day; double serial; };
+    struct Case {
+        int year, month, day;
+        double serial;
+    };
     const Case cases[] = {
-        {0, 1, 1, 1},          {0, 12, 31, 366},      {1, 1, 1, 367},        {-1, 12, 31, 0},
-        {-1, 1, 1, -364},      {1600, 2, 29, 584448}, {1900, 3, 1, 694021},  {1970, 1, 1, 719529},
-        {2000, 1, 1, 730486},  {2024, 2, 29, 739311}, {2024, 3, 1, 739312},  {9999, 12, 31, 3652425},
+        {0, 1, 1, 1},         {0, 12, 31, 366},      {1, 1, 1, 367},       {-1, 12, 31, 0},
+        {-1, 1, 1, -364},     {1600, 2, 29, 584448}, {1900, 3, 1, 694021}, {1970, 1, 1, 719529},
+        {2000, 1, 1, 730486}, {2024, 2, 29, 739311}, {2024, 3, 1, 739312}, {9999, 12, 31, 3652425},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << c.year << "-" << c.month << "-" << c.day);
@@ -34,12 +37,15 @@ TEST(SerialDate, KnownDaysHaveTheirReferenceNumbers) {
 }
 
 TEST(SerialDate, PartsOutsideTheirRangesAreAbsorbed) {
-    struct Case { DateVector given; DateVector same; };
+    struct Case {
+        DateVector given;
+        DateVector same;
+    };
     const Case cases[] = {
-        {{2024, 13, 1, 0, 0, 0}, {2025, 1, 1, 0, 0, 0}},     {{2024, 0, 1, 0, 0, 0}, {2023, 12, 1, 0, 0, 0}},
-        {{2024, -1, 15, 0, 0, 0}, {2023, 11, 15, 0, 0, 0}},  {{2024, 3, 0, 0, 0, 0}, {2024, 2, 29, 0, 0, 0}},
-        {{2023, 3, 0, 0, 0, 0}, {2023, 2, 28, 0, 0, 0}},     {{2024, 1, 32, 0, 0, 0}, {2024, 2, 1, 0, 0, 0}},
-        {{2024, 3, 1, 0, -30, 0}, {2024, 2, 29, 23, 30, 0}}, {{2024, 1, 1, 0, 0, -1}, {2023, 12, 31, 23, 59, 59}},
+        {{2024, 13, 1, 0, 0, 0}, {2025, 1, 1, 0, 0, 0}},        {{2024, 0, 1, 0, 0, 0}, {2023, 12, 1, 0, 0, 0}},
+        {{2024, -1, 15, 0, 0, 0}, {2023, 11, 15, 0, 0, 0}},     {{2024, 3, 0, 0, 0, 0}, {2024, 2, 29, 0, 0, 0}},
+        {{2023, 3, 0, 0, 0, 0}, {2023, 2, 28, 0, 0, 0}},        {{2024, 1, 32, 0, 0, 0}, {2024, 2, 1, 0, 0, 0}},
+        {{2024, 3, 1, 0, -30, 0}, {2024, 2, 29, 23, 30, 0}},    {{2024, 1, 1, 0, 0, -1}, {2023, 12, 31, 23, 59, 59}},
         {{2024.7, 3.9, 1.75, 0, 0, 0}, {2024, 3, 1, 18, 0, 0}},
     };
     for (const Case& c : cases) {
@@ -54,8 +60,9 @@ TEST(SerialDate, MillisecondsSurviveARoundTripAcrossYearsAndLeapDays) {
         const double lastOfFebruary = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0 ? 29 : 28;
         for (double ms : {0, 1, 250, 499, 500, 999}) {
             SCOPED_TRACE(testing::Message() << year << " +" << ms << " ms");
-            const DateVector date{double(year), 2, lastOfFebruary, double((year + 800) % 24), double((year + 800) % 60),
-                                  (59000 + ms) / 1000};
+            const DateVector date{
+                double(year),       2, lastOfFebruary, double((year + 800) % 24), double((year + 800) % 60),
+                (59000 + ms) / 1000};
             EXPECT_EQ(calcDatevec(datenumFromDatevec(date)), date);
         }
     }

@@ -4,9 +4,9 @@
 #include <orrery/files/paths.hpp>
 #include <orrery/text/text.hpp>
 
+#include <unistd.h>
 #include <filesystem>
 #include <fstream>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 using namespace orrery::files;
@@ -43,8 +43,10 @@ protected:
 
 TEST_F(PathsTest, ResolvingGivesCanonicalOrAbsolutePathsAndIsDirFollowsLinks) {
     const std::pair<const char*, const char*> cases[] = {
-        {"sub/../exists.txt", "exists.txt"}, {"link/new.xml", "sub/new.xml"},
-        {"missing/../log.xml", "log.xml"},   {"missing/", "missing/"},
+        {"sub/../exists.txt", "exists.txt"},
+        {"link/new.xml", "sub/new.xml"},
+        {"missing/../log.xml", "log.xml"},
+        {"missing/", "missing/"},
     };
     for (const auto& [given, expected] : cases) {
         EXPECT_EQ(applied(resolveCanonicalIfExistsElseAbsolute, under(given)), under(expected)) << given;
@@ -61,14 +63,24 @@ TEST_F(PathsTest, ResolvingGivesCanonicalOrAbsolutePathsAndIsDirFollowsLinks) {
 }
 
 TEST(Paths, DotsAreHandledLexically) {
-    struct Case { void (*helper)(std::u16string&); const char* given; const char* expected; };
+    struct Case {
+        void (*helper)(std::u16string&);
+        const char* given;
+        const char* expected;
+    };
     const Case cases[] = {
         // Single dots are removed, and nothing else.
-        {handleSingleDots, "/a/./b", "/a/b"}, {handleSingleDots, "./a", "a"}, {handleSingleDots, "a/.", "a/"},
-        {handleSingleDots, "./.", "."}, {handleSingleDots, "/.hidden/../x.", "/.hidden/../x."},
+        {handleSingleDots, "/a/./b", "/a/b"},
+        {handleSingleDots, "./a", "a"},
+        {handleSingleDots, "a/.", "a/"},
+        {handleSingleDots, "./.", "."},
+        {handleSingleDots, "/.hidden/../x.", "/.hidden/../x."},
         // A double dot removes the component before it.
-        {handleDotDots, "/a/b/../c", "/a/c"}, {handleDotDots, "/../a", "/a"}, {handleDotDots, "../a", "../a"},
-        {handleDotDots, "a/b/../../..", ".."}, {handleDotDots, "/a/./b//c", "/a/b/c"},
+        {handleDotDots, "/a/b/../c", "/a/c"},
+        {handleDotDots, "/../a", "/a"},
+        {handleDotDots, "../a", "../a"},
+        {handleDotDots, "a/b/../../..", ".."},
+        {handleDotDots, "/a/./b//c", "/a/b/c"},
     };
     for (const auto& c : cases) EXPECT_EQ(applied(c.helper, c.given), c.expected) << c.given;
 }

@@ -25,9 +25,9 @@ static ValueArray plainObjects(Dims dims) {
 
 TEST(FunctionTable, IsscalarCountsElements) {
     const std::pair<ValueArray, bool> cases[] = {
-        {ValueArray::scalar(3), true}, {ValueArray::charArray(Dims{1, 0}, u""), false},
+        {ValueArray::scalar(3), true},           {ValueArray::charArray(Dims{1, 0}, u""), false},
         {ValueArray::cell(Dims{1, 1, 1}), true}, {ValueArray::string(u"text"), true},
-        {plainObjects(Dims{2, 2}), false},     {plainObjects(Dims{1, 1}), true},
+        {plainObjects(Dims{2, 2}), false},       {plainObjects(Dims{1, 1}), true},
     };
     for (const auto& [value, expected] : cases) {
         SCOPED_TRACE(value.className() + " " + value.dims().text());
@@ -43,10 +43,9 @@ TEST(FunctionTable, IsscalarCountsElements) {
 TEST(FunctionTable, TheFirstObjectsClassMethodWinsWithItsSignatureChecked) {
     // A class with its own isscalar taking one object and answering 42.
     const auto ownClass = std::make_shared<orrery::ocos::COSClassInfo>("test.Own");
-    ownClass->addMethod(ocos_test::lambdaMethod("isscalar", {{"test.Own"}, {"double"}},
-                                                [](auto, ValueArrayPtr* plhs, auto, auto) {
-                                                    plhs[0] = makeValue(ValueArray::scalar(42));
-                                                }));
+    ownClass->addMethod(ocos_test::lambdaMethod(
+        "isscalar", {{"test.Own"}, {"double"}},
+        [](auto, ValueArrayPtr* plhs, auto, auto) { plhs[0] = makeValue(ValueArray::scalar(42)); }));
     const ValueArray own = ValueArray::objectArray(ownClass, Dims{2, 2});
     EXPECT_EQ(call("isscalar", {own}).realAt(0), 42);
     // The method decides even where the host's function would accept the call.

@@ -28,7 +28,11 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kPi = std::numbers::pi;
 
 TEST(Sprintf, FormatsTheDataByTheFormat) {
-    const struct { std::string format; std::vector<ValueArray> args; std::string expected; } cases[] = {
+    const struct {
+        std::string format;
+        std::vector<ValueArray> args;
+        std::string expected;
+    } cases[] = {
         // Escapes are processed in the format only.
         {R"(a\tb\nc\\d\a\b\f\r\v)", {}, "a\tb\nc\\d\a\b\f\r\v"},
         {R"(\101\x42\x263A|\7)", {}, "AB\u263A|\a"},
@@ -95,7 +99,11 @@ TEST(Sprintf, FormatsTheDataByTheFormat) {
 
 TEST(Sprintf, RejectsBadFormatsAndArguments) {
     const auto object = ValueArray::objectArray(std::make_shared<orrery::ocos::COSClassInfo>("demo.Thing"), Dims{1, 1});
-    const struct { ValueArray format; std::vector<ValueArray> args; const char* identifier; } cases[] = {
+    const struct {
+        ValueArray format;
+        std::vector<ValueArray> args;
+        const char* identifier;
+    } cases[] = {
         {num(5), {}, "ORRERY:sprintf:missingStringArgument"},
         {ValueArray::charArray(Dims{2, 1}, u"ab"), {}, "ORRERY:sprintf:missingStringArgument"},
         {ValueArray::missingString(), {}, "ORRERY:sprintf:missingStringArgument"},

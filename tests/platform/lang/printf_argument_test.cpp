@@ -66,9 +66,20 @@ TEST(PrintfArgument, DoubleTextReadsBackToTheSameNumber) {
 
 TEST(PrintfArgument, OrdersByKindThenValue) {
     // Ascending; each entry is strictly less than the next.
-    const std::vector<PrintfArgument> ascending = {
-        std::int32_t{-1}, std::int32_t{2}, std::uint32_t{0}, std::int64_t{0}, std::uint64_t{0},
-        -kNaN, -kInf, -1.0, 0.0, kInf, kNaN, std::u16string(), std::u16string(u"a"), std::u16string(u"b")};
+    const std::vector<PrintfArgument> ascending = {std::int32_t{-1},
+                                                   std::int32_t{2},
+                                                   std::uint32_t{0},
+                                                   std::int64_t{0},
+                                                   std::uint64_t{0},
+                                                   -kNaN,
+                                                   -kInf,
+                                                   -1.0,
+                                                   0.0,
+                                                   kInf,
+                                                   kNaN,
+                                                   std::u16string(),
+                                                   std::u16string(u"a"),
+                                                   std::u16string(u"b")};
     for (std::size_t i = 0; i + 1 < ascending.size(); ++i) {
         SCOPED_TRACE(i);
         EXPECT_TRUE(ascending[i] < ascending[i + 1]);

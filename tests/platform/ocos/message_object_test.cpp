@@ -35,4 +35,3 @@ TEST(MessageObject, ShowsItsContentAndFormatsItsTextOnlyForOneValidMessage) {
     EXPECT_MSGID_TEXT(makeMessageObject({"ORRERY:nowhere:atAll", {}}), "ORRERY:ocos:noSuchMessage",
                       "The message catalogue has no message with the identifier 'ORRERY:nowhere:atAll'.");
 }
-

@@ -51,4 +51,3 @@ TEST(ObjectAccess, NewArraysHoldOneInstancePerElementAndBadAccessRaises) {
     EXPECT_MSGID(getProperty(notObjects, 0, "label"), "ORRERY:value:wrongClass");
     EXPECT_MSGID(setProperty(notObjects, 0, "label", ValueArray()), "ORRERY:value:wrongClass");
 }
-

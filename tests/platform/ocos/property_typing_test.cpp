@@ -8,20 +8,35 @@ using orrery::value::ClassId;
 
 TEST(PropertyTyping, AcceptsValuesOfTheDeclaredTypeOnlyAndRefusesBeforeTheSetterRuns) {
     const auto other = std::make_shared<COSClassInfo>("test.ocos.Other");
-    struct Case { const char* property; ValueArray value; bool accepted; };
+    struct Case {
+        const char* property;
+        ValueArray value;
+        bool accepted;
+    };
     const Case cases[] = {
-        {"label", ValueArray::chars(u"plain"), true}, {"label", ValueArray::missingString(), true},
+        {"label", ValueArray::chars(u"plain"), true},
+        {"label", ValueArray::missingString(), true},
         {"label", ValueArray::chars(u""), true},  // 0-by-0
-        {"label", ValueArray::chars(u"caf\u00e9"), false}, {"label", ValueArray::charArray(Dims{2, 1}, u"ab"), false},
-        {"title", ValueArray::string(u"\u03a9"), true}, {"title", ValueArray::missingString(), false},
-        {"items", ValueArray::cell(Dims{2, 3}), true}, {"items", ValueArray::structArray(Dims{1, 1}), false},
-        {"record", ValueArray::structArray(Dims{0, 0}, {"a"}), true}, {"record", ValueArray::cell(Dims{1, 1}), false},
-        {"numbers", ValueArray::doubles(Dims{1, 3}, {1, 2, 3}), true}, {"weight", ValueArray::scalar(2.5), true},
-        {"numbers", ValueArray::numericScalar(ClassId::Single, 1), false}, {"weight", ValueArray(), false},
-        {"weight", ValueArray::doubles(Dims{1, 2}, {1, 2}), false}, {"flags", ValueArray::scalar(1), false},
-        {"weight", ValueArray::numericScalar(ClassId::Int32, 3), false}, {"active", ValueArray::scalar(1), false},
-        {"flags", ValueArray::logicals(Dims{2, 1}, {true, false}), true}, {"peer", makeGadget("other"), true},
-        {"active", ValueArray::logicalScalar(true), true}, {"peer", ValueArray::objectArray(other, Dims{1, 1}), false},
+        {"label", ValueArray::chars(u"caf\u00e9"), false},
+        {"label", ValueArray::charArray(Dims{2, 1}, u"ab"), false},
+        {"title", ValueArray::string(u"\u03a9"), true},
+        {"title", ValueArray::missingString(), false},
+        {"items", ValueArray::cell(Dims{2, 3}), true},
+        {"items", ValueArray::structArray(Dims{1, 1}), false},
+        {"record", ValueArray::structArray(Dims{0, 0}, {"a"}), true},
+        {"record", ValueArray::cell(Dims{1, 1}), false},
+        {"numbers", ValueArray::doubles(Dims{1, 3}, {1, 2, 3}), true},
+        {"weight", ValueArray::scalar(2.5), true},
+        {"numbers", ValueArray::numericScalar(ClassId::Single, 1), false},
+        {"weight", ValueArray(), false},
+        {"weight", ValueArray::doubles(Dims{1, 2}, {1, 2}), false},
+        {"flags", ValueArray::scalar(1), false},
+        {"weight", ValueArray::numericScalar(ClassId::Int32, 3), false},
+        {"active", ValueArray::scalar(1), false},
+        {"flags", ValueArray::logicals(Dims{2, 1}, {true, false}), true},
+        {"peer", makeGadget("other"), true},
+        {"active", ValueArray::logicalScalar(true), true},
+        {"peer", ValueArray::objectArray(other, Dims{1, 1}), false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.property) + " <- " + c.value.className() + " " + c.value.dims().text());
@@ -57,7 +72,9 @@ TEST(PropertyTyping, BadDescriptionsAreInternalFaults) {
     const auto get = [](const Gadget& g) { return g.weight; };
     const auto set = [](Gadget& g, double w) { g.weight = w; };
     for (const char* type : {"string", "Double scalar", "asciistring", "double  scalar", "", "a..b", "1pkg.C"}) {
-        EXPECT_THROW(COSPropInfo("p", type, [](const COSObject&) { return ValueArray(); }), orrery::except::InternalError) << type;
+        EXPECT_THROW(COSPropInfo("p", type, [](const COSObject&) { return ValueArray(); }),
+                     orrery::except::InternalError)
+            << type;
     }
     // Accessors of one value type cannot serve a property of another.
     EXPECT_THROW(makeProperty<Gadget>("w", "double", get, set), orrery::except::InternalError);

@@ -17,11 +17,28 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 
 TEST(ParseDouble, ReadsWhatTheCLocaleReads) {
     const std::pair<const char*, double> cases[] = {
-        {"1.5", 1.5}, {".5", 0.5}, {"2.", 2}, {"-2.5e-3", -2.5e-3}, {"+7", 7}, {"1E3", 1000}, {"  \t4 \n", 4},
-        {"0x1.8p1", 3}, {"-0X10", -16}, {"0x.8", 0.5}, {"Inf", kInf}, {"-infinity", -kInf}, {"4e-320", 4e-320},
+        {"1.5", 1.5},
+        {".5", 0.5},
+        {"2.", 2},
+        {"-2.5e-3", -2.5e-3},
+        {"+7", 7},
+        {"1E3", 1000},
+        {"  \t4 \n", 4},
+        {"0x1.8p1", 3},
+        {"-0X10", -16},
+        {"0x.8", 0.5},
+        {"Inf", kInf},
+        {"-infinity", -kInf},
+        {"4e-320", 4e-320},
         // Out of range: the leading digit and the exponent together tell too large from too small.
-        {"1e400", kInf}, {"-1e400", -kInf}, {"1e-400", 0}, {"0x1p99999", kInf}, {"0.000000001e400", kInf},
-        {"100000000000e-400", 0}, {"1e99999999999999999999999", kInf}, {"1e-99999999999999999999999", 0},
+        {"1e400", kInf},
+        {"-1e400", -kInf},
+        {"1e-400", 0},
+        {"0x1p99999", kInf},
+        {"0.000000001e400", kInf},
+        {"100000000000e-400", 0},
+        {"1e99999999999999999999999", kInf},
+        {"1e-99999999999999999999999", 0},
     };
     for (const auto& [text, expected] : cases) {
         SCOPED_TRACE(text);

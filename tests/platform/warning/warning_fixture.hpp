@@ -21,9 +21,13 @@ public:
                 (WarningManagerContext*, const std::optional<std::string>&, const catalogue::MessageContent&, bool),
                 (override));
     void warn(WarningManagerContext*, const std::string&, const std::u16string&, std::va_list*, const std::u16string&,
-              bool) override { ADD_FAILURE() << "unexpected log operation"; }
+              bool) override {
+        ADD_FAILURE() << "unexpected log operation";
+    }
     void warn(WarningManagerContext*, const std::string&, const std::u16string&, std::int32_t,
-              const value::ValueArray* const*, const std::u16string&, bool) override { ADD_FAILURE(); }
+              const value::ValueArray* const*, const std::u16string&, bool) override {
+        ADD_FAILURE();
+    }
     void openLog(const std::u16string&) override { ADD_FAILURE() << "unexpected log operation"; }
     void closeLog(const std::u16string&) override { ADD_FAILURE() << "unexpected log operation"; }
 };

@@ -17,7 +17,13 @@ constexpr const char* kUnchanged = "earlier:printed";
 
 TEST_F(WarningOperation, StateDecidesBetweenPrintingDisablingAndRaising) {
     // holder: the identifier given an own state, or none. outcome: 'p'rinted, 'd'isabled or 'e'rror.
-    struct Case { const char* label; std::string identifier; const char* holder; WarningState own, all; char outcome; };
+    struct Case {
+        const char* label;
+        std::string identifier;
+        const char* holder;
+        WarningState own, all;
+        char outcome;
+    };
     const Case cases[] = {
         {"default off", "a:b", nullptr, WarningState::On, WarningState::Off, 'd'},
         {"own on beats default off", "a:b", "a:b", WarningState::On, WarningState::Off, 'p'},
@@ -104,10 +110,17 @@ TEST_F(WarningOperation, FiltersBelongToTheMachineThatRegisteredThem) {
 TEST_F(WarningOperation, ModesAddLocationAndHintLines) {
     const std::string location = "> In fname (line 12)\n";
     const std::string hint = "(Type \"warning off a:b\" to suppress this warning.)\n";
-    struct Case { bool backtrace, verbose; std::string identifier; std::u16string message; std::string expected; };
+    struct Case {
+        bool backtrace, verbose;
+        std::string identifier;
+        std::u16string message;
+        std::string expected;
+    };
     const Case cases[] = {
-        {true, false, "a:b", u"m", "Warning: m\n" + location}, {false, false, "a:b", u"m", "Warning: m\n"},
-        {false, true, "a:b", u"m", "Warning: m\n" + hint},     {false, true, "", u"m", "Warning: m\n"},
+        {true, false, "a:b", u"m", "Warning: m\n" + location},
+        {false, false, "a:b", u"m", "Warning: m\n"},
+        {false, true, "a:b", u"m", "Warning: m\n" + hint},
+        {false, true, "", u"m", "Warning: m\n"},
         {true, true, "a:b", u"m", "Warning: m\n" + location + hint},
         // Text that is not valid UTF is printed with replacement characters.
         {false, true, "bad\xFF:id", u"lone \xD800 surrogate",

@@ -50,7 +50,8 @@ TEST(ConversionBuiltins, ConvertValuesAsTheLanguageDoes) {
 TEST(ConversionBuiltins, ReadStringsAsNumbersUnderAnyLocale) {
     ORRERY_USE_DECIMAL_COMMA_LOCALE();
     const std::pair<std::u16string, double> read[] = {{u"1.5", 1.5}, {u" +2.5e1 ", 25}, {u"-Inf", -INFINITY}};
-    for (const auto& [text, number] : read) EXPECT_EQ(numbers(call1("double", {str(text)})), std::vector<double>{number});
+    for (const auto& [text, number] : read)
+        EXPECT_EQ(numbers(call1("double", {str(text)})), std::vector<double>{number});
     EXPECT_TRUE(std::isnan(call1("double", {str(u"1,5")}).realAt(0)));
 }
 

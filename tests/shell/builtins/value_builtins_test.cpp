@@ -60,7 +60,7 @@ struct Thing : orrery::ocos::COSObject {
 struct AlwaysEqual : orrery::ocos::COSMethodInfo {
     AlwaysEqual()
         : COSMethodInfo("isequal", orrery::ocos::COSMethodSignature({"builtinstest.Defining", "builtinstest.Defining"},
-                                                                     {"logical scalar"})) {}
+                                                                    {"logical scalar"})) {}
     void invoke(std::int32_t, orrery::value::ValueArrayPtr* plhs, std::int32_t,
                 const ValueArray* const*) const override {
         plhs[0] = orrery::value::makeValue(ValueArray::logicalScalar(true));
@@ -78,7 +78,8 @@ ValueArray thingOf(const std::shared_ptr<const orrery::ocos::COSClassInfo>& info
 TEST(IsequalBuiltin, ObjectsCompareByValueUnlessTheirClassDefinesIsequal) {
     const auto message = [](const char* id) { return orrery::ocos::makeMessageObject({id, {}}); };
     const ValueArray tooMany = message("ORRERY:tooManyInputs");
-    EXPECT_TRUE(truth(call1("isequal", {tooMany, message("ORRERY:tooManyInputs")}))) << "distinct instances, equal values";
+    EXPECT_TRUE(truth(call1("isequal", {tooMany, message("ORRERY:tooManyInputs")})))
+        << "distinct instances, equal values";
     EXPECT_FALSE(truth(call1("isequal", {tooMany, message("ORRERY:notEnoughInputs")})));
     EXPECT_FALSE(truth(call1("isequal", {tooMany, num(1)})));
     EXPECT_TRUE(truth(call1("isequal", {cellRow({tooMany}), cellRow({message("ORRERY:tooManyInputs")})})));

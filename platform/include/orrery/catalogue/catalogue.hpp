@@ -17,12 +17,10 @@ ORRERY_API bool hasMessage(std::string_view identifier);
 /// The text of the identifier with its placeholders filled from arguments, in the
 /// ICU default locale. A missing entry raises "ORRERY:catalogue:noSuchMessage";
 /// arguments of the wrong kind for the pattern raise "ORRERY:catalogue:argumentMismatch".
-ORRERY_API std::u16string formatMessage(std::string_view identifier,
-                                        std::span<const MessageArgument> arguments = {});
+ORRERY_API std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments = {});
 
 /// Convenience: formatMessage converted to UTF-8.
-ORRERY_API std::string formatMessageUtf8(std::string_view identifier,
-                                         std::span<const MessageArgument> arguments = {});
+ORRERY_API std::string formatMessageUtf8(std::string_view identifier, std::span<const MessageArgument> arguments = {});
 
 /// Folder that holds the compiled catalogue (root.res): $ORRERY_CATALOGUE_DIR if set,
 /// else the "catalogue" folder beside the platform library.

@@ -46,15 +46,15 @@ private:
     static MessageArgument toArgument(std::u16string text) { return MessageArgument(std::move(text)); }
     static MessageArgument toArgument(const char16_t* text) { return MessageArgument(std::u16string(text)); }
     template <class Number>
-        requires std::is_arithmetic_v<std::remove_cvref_t<Number>>
+    requires std::is_arithmetic_v<std::remove_cvref_t<Number>>
     static MessageArgument toArgument(Number n) { return MessageArgument(static_cast<double>(n)); }
 };
 
 }  // namespace orrery::except
 
 /// Declares the key type Name for the catalogue identifier Identifier (a literal).
-#define ORRERY_MESSAGE_KEY(Name, Identifier)                        \
-    struct Name : ::orrery::except::MessageKey<Name> {              \
-        using MessageKey::MessageKey;                               \
+#define ORRERY_MESSAGE_KEY(Name, Identifier)                           \
+    struct Name : ::orrery::except::MessageKey<Name> {                 \
+        using MessageKey::MessageKey;                                  \
         static constexpr std::string_view identifierText = Identifier; \
     }

@@ -16,8 +16,7 @@ class QExceptionEnvelope;
 /// and the name of the function that reported it (empty for none).
 class ORRERY_API QException : public std::exception {
 public:
-    QException(std::string identifier, std::u16string message, value::ValueArray stack,
-               std::string functionName);
+    QException(std::string identifier, std::u16string message, value::ValueArray stack, std::string functionName);
     /// Takes over the parts of an envelope whose stack is set (see DoThrow).
     explicit QException(QExceptionEnvelope&& envelope);
     ~QException() override;
@@ -41,8 +40,7 @@ public:
             std::optional<value::ValueArray> stack;
         };
         static Record Get();
-        static void Set(std::string identifier, std::u16string message,
-                        std::optional<value::ValueArray> stack);
+        static void Set(std::string identifier, std::u16string message, std::optional<value::ValueArray> stack);
     };
 
 private:

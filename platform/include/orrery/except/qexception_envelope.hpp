@@ -15,8 +15,8 @@ class ORRERY_API QExceptionEnvelope {
 public:
     /// stack: the error's stack array, or none for the current call stack.
     /// flag: kept for the host; always 1 from the diagnostic built-ins.
-    QExceptionEnvelope(std::string identifier, std::u16string message,
-                       std::optional<value::ValueArray> stack, int flag);
+    QExceptionEnvelope(std::string identifier, std::u16string message, std::optional<value::ValueArray> stack,
+                       int flag);
     /// From a catalogue message: its identifier and formatted text, no stack.
     explicit QExceptionEnvelope(const catalogue::MessageContent& content);
 

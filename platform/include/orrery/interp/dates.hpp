@@ -50,8 +50,7 @@ ORRERY_API DateVector calcDatevec(double serial, int precision = 0);
 ///
 /// Raises "ORRERY:dates:notFinite" when a part is NaN or infinite and
 /// "ORRERY:dates:outOfRange" when the year leaves -32767 to 32767.
-ORRERY_API double datenumFromDatevec(double year, double month, double day, double hour, double minute,
-                                     double seconds);
+ORRERY_API double datenumFromDatevec(double year, double month, double day, double hour, double minute, double seconds);
 
 /// The same conversion from a date vector.
 inline double datenumFromDatevec(const DateVector& date) {

@@ -75,7 +75,7 @@ template <class Value>
 void checkFits(std::string_view name, std::string_view typeText) {
     if (!PropertyValueTraits<Value>::fits(COSType(typeText).kind())) {
         except::internalError("class system", "property \"" + std::string(name) + "\" of type \"" +
-                               std::string(typeText) + "\" has accessors of another value type");
+                                                  std::string(typeText) + "\" has accessors of another value type");
     }
 }
 

@@ -59,9 +59,7 @@ ORRERY_API bool equalsIgnoreCaseAscii(std::string_view a, std::string_view b);
 
 /// Orders UTF-16 texts case-insensitively, for ordered containers keyed by file name.
 struct CaseInsensitiveLess {
-    bool operator()(std::u16string_view a, std::u16string_view b) const {
-        return compareIgnoreCase(a, b) < 0;
-    }
+    bool operator()(std::u16string_view a, std::u16string_view b) const { return compareIgnoreCase(a, b) < 0; }
 };
 
 }  // namespace orrery::text

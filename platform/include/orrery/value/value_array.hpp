@@ -79,8 +79,10 @@ public:
     double realAt(std::size_t i) const;
     void setRealAt(std::size_t i, double value);
     /// Direct typed access; T must match the class (double, float, intN_t, uintN_t).
-    template <class T> std::span<const T> data() const;
-    template <class T> std::span<T> mutableData();
+    template <class T>
+    std::span<const T> data() const;
+    template <class T>
+    std::span<T> mutableData();
     bool logicalAt(std::size_t i) const;
     void setLogicalAt(std::size_t i, bool value);
     /// Converts a scalar of any numeric, logical or char class to logical; NaN and
