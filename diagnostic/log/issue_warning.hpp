@@ -1,0 +1,22 @@
+// Issuing a warning and handing it to the warning manager's log: the path of
+// every warning the warning built-in issues.
+#pragma once
+
+#include <orrery/value/value_array.hpp>
+#include <orrery/warning/warning_manager.hpp>
+
+#include <cstdint>
+#include <string>
+
+namespace orrery::lang::diagnostic {
+
+/// Issues the warning through the interpreter's warning operation without
+/// logging (its state decides: "off" shows nothing, "on" prints, "error" raises
+/// the user error here), then hands it to the context's log, made and installed
+/// first when the context has none: identifier, format, the count format
+/// arguments, the formatted message and whether the warning was disabled.
+void issueAndLogWarning(warning::WarningManagerContext* context, const std::string& identifier,
+                        const std::u16string& format, std::int32_t count, const value::ValueArray* const* values,
+                        const std::u16string& message);
+
+}  // namespace orrery::lang::diagnostic
