@@ -98,8 +98,11 @@ void bnDatevec(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
         plhs[0] = makeValue(ValueArray::doubles(value::Dims{n, 6}, std::move(parts)));
         return;
     }
-    for (std::size_t c = 0; c < static_cast<std::size_t>(nlhs); ++c)
-        plhs[c] = makeValue(ValueArray::doubles(serials.dims(), {parts.begin() + c * n, parts.begin() + (c + 1) * n}));
+    const auto column = static_cast<std::ptrdiff_t>(n);
+    for (std::ptrdiff_t c = 0; c < nlhs; ++c) {
+        const auto first = parts.begin() + c * column;
+        plhs[c] = makeValue(ValueArray::doubles(serials.dims(), {first, first + column}));
+    }
 }
 
 // ---- timing ------------------------------------------------------------------

@@ -29,6 +29,7 @@ using Invoker = std::function<void(std::int32_t, value::ValueArrayPtr*, std::int
 
 std::vector<const ValueArray*> pointersTo(const std::vector<ValueArray>& args) {
     std::vector<const ValueArray*> pointers;
+    pointers.reserve(args.size());
     for (const auto& arg : args) pointers.push_back(&arg);
     return pointers;
 }

@@ -14,7 +14,9 @@ constexpr std::string_view kClassName = "QException";
 
 class ExceptionInstance final : public ocos::COSObject {
 public:
-    explicit ExceptionInstance(except::QException error) : error_(std::move(error)) {}
+    // The instance keeps the error to raise it again on rethrow.
+    explicit ExceptionInstance(except::QException error)
+        : error_(std::move(error)) {}  // NOLINT(bugprone-throw-keyword-missing)
     std::shared_ptr<ocos::COSObject> clone() const override { return std::make_shared<ExceptionInstance>(*this); }
     const except::QException& error() const noexcept { return error_; }
 

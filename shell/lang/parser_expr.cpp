@@ -133,35 +133,38 @@ ExprPtr Parser::parsePower() {
 ExprPtr Parser::parsePowerOperand() { return parsePrefixed(&Parser::parsePostfix, &Parser::parsePowerOperand); }
 
 ExprPtr Parser::parsePostfix() {
-    ExprPtr base = parsePrimary();
-    ExprPtr chain;
+    ExprPtr current = parsePrimary();
+    bool chainOpen = false;  // current is a postfix chain still taking suffixes
     for (;;) {
         if (at(Transpose) || at(DotTranspose)) {
-            if (chain) base = finish(std::move(chain));
+            if (chainOpen) current = finish(std::move(current));
+            chainOpen = false;
             auto node = makeNode(ExprKind::Transpose, peek().pos);
             node->op = take().kind == Transpose ? Op::Power : Op::ElementPower;  // conjugate or plain
-            node->operands.push_back(std::move(base));
-            base = finish(std::move(node));
+            node->operands.push_back(std::move(current));
+            current = finish(std::move(node));
             continue;
         }
         if (!at(LParen) && !at(LBrace) && !at(Dot)) break;
-        if (!chain) {
-            chain = makeNode(ExprKind::Postfix, base->pos);
-            chain->operands.push_back(std::move(base));
+        if (!chainOpen) {
+            auto chain = makeNode(ExprKind::Postfix, current->pos);
+            chain->operands.push_back(std::move(current));
+            current = std::move(chain);
+            chainOpen = true;
         }
         // assignments walk a chain recursively, so its length is bounded too
-        if (chain->suffixes.size() >= static_cast<std::size_t>(kMaxExpressionDepth)) tooDeep(kMaxExpressionDepth);
+        if (current->suffixes.size() >= static_cast<std::size_t>(kMaxExpressionDepth)) tooDeep(kMaxExpressionDepth);
         if (at(Dot)) {
-            parseFieldSuffix(*chain);
+            parseFieldSuffix(*current);
             continue;
         }
         Suffix suffix;
         suffix.kind = at(LParen) ? SuffixKind::Paren : SuffixKind::Brace;
         suffix.pos = take().pos;
         parseArguments(suffix, suffix.kind == SuffixKind::Paren ? RParen : RBrace);
-        chain->suffixes.push_back(std::move(suffix));
+        current->suffixes.push_back(std::move(suffix));
     }
-    return chain ? finish(std::move(chain)) : std::move(base);
+    return chainOpen ? finish(std::move(current)) : std::move(current);
 }
 
 void Parser::parseFieldSuffix(Expr& postfix) {

@@ -80,6 +80,7 @@ std::vector<std::size_t> cartesianPositions(const std::vector<std::vector<std::s
 
 value::Dims listSizes(const std::vector<std::vector<std::size_t>>& lists) {
     std::vector<std::size_t> sizes;
+    sizes.reserve(lists.size());
     for (const auto& list : lists) sizes.push_back(list.size());
     return value::Dims(std::move(sizes));
 }

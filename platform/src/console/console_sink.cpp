@@ -22,7 +22,7 @@ ConsoleSink::~ConsoleSink() = default;
 
 ConsoleSink& standardConsole() noexcept {
     // Never destroyed: text may still be written while static objects go at exit.
-    static auto* const console = new StandardConsole();
+    static auto* const console = new StandardConsole();  // NOLINT(bugprone-unhandled-exception-at-new): at start-up
     return *console;
 }
 

@@ -69,8 +69,10 @@ DateVector calcDatevec(double serial, int precision) {
     out.year = static_cast<int>(date.year());
     out.month = static_cast<unsigned>(date.month());
     out.day = static_cast<unsigned>(date.day());
-    out.hour = static_cast<double>(ticks / (60 * perMinute));
-    out.minute = static_cast<double>(ticks / perMinute % 60);
+    const std::int64_t hours = ticks / (60 * perMinute);
+    const std::int64_t minutes = ticks / perMinute % 60;
+    out.hour = static_cast<double>(hours);
+    out.minute = static_cast<double>(minutes);
     out.seconds = static_cast<double>(ticks % perMinute) / static_cast<double>(perSecond);
     return out;
 }

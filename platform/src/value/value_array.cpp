@@ -145,7 +145,7 @@ ValueArray ValueArray::strings(Dims dims, std::vector<std::optional<std::u16stri
 
 ValueArray ValueArray::cell(Dims dims) { return zeros(ClassId::Cell, std::move(dims)); }
 
-ValueArray ValueArray::structArray(Dims dims, std::vector<std::string> fieldNames) {
+ValueArray ValueArray::structArray(Dims dims, const std::vector<std::string>& fieldNames) {
     ValueArray result = zeros(ClassId::Struct, std::move(dims));
     for (const auto& name : fieldNames) result.addField(name);
     return result;

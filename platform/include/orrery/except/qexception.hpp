@@ -21,7 +21,9 @@ public:
     explicit QException(QExceptionEnvelope&& envelope);
     ~QException() override;
     QException(const QException&) = default;
+    QException(QException&&) noexcept = default;
     QException& operator=(const QException&) = default;
+    QException& operator=(QException&&) noexcept = default;
 
     const std::string& identifier() const noexcept { return identifier_; }
     const std::u16string& message() const noexcept { return message_; }

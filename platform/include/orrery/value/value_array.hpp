@@ -54,7 +54,7 @@ public:
     /// A cell array of 0-by-0 doubles.
     static ValueArray cell(Dims dims);
     /// A struct array whose elements have the given fields, all unset.
-    static ValueArray structArray(Dims dims, std::vector<std::string> fieldNames = {});
+    static ValueArray structArray(Dims dims, const std::vector<std::string>& fieldNames = {});
     /// The stack structure: N-by-1 struct with fields file, name, line (unset).
     static ValueArray stackStructure(std::size_t frames);
     /// An object array of the class; every element starts invalid.
