@@ -20,8 +20,9 @@ constexpr std::string_view kModuleFile = "libdiagnostic.so";
 
 // The module's built-ins, bound by the names they are exported under.
 constexpr BuiltinBinding kBindings[] = {
-    {"error", "bnFullErrorFcn"}, {"assert", "bnFullAssertFcn"},   {"rethrow", "bnStructRethrowFcn"},
-    {"lasterr", "bnLastErrMsg"}, {"lasterror", "bnLastErrorFcn"},
+    {"error", "bnFullErrorFcn"},      {"assert", "bnFullAssertFcn"},   {"rethrow", "bnStructRethrowFcn"},
+    {"lasterr", "bnLastErrMsg"},      {"lasterror", "bnLastErrorFcn"}, {"warning", "bnFullWarningFcn"},
+    {"lastwarn", "bnLastWarningMsg"},
 };
 
 using EntryPoint = void (*)();
