@@ -70,6 +70,7 @@ void WarningLogXML::warn(warning::WarningManagerContext* context, const std::str
     logWarning(context, identifier, message, wasDisabled, [&format, count, values](Warning& record) {
         record.setFormat(format);
         std::vector<PrintfArgument> arguments;
+        if (count > 0) arguments.reserve(static_cast<std::size_t>(count));
         for (std::int32_t i = 0; i < count; ++i) arguments.push_back(argumentOfValue(*values[i]));
         record.setArguments(std::move(arguments));
     });
