@@ -19,4 +19,9 @@ void issueAndLogWarning(warning::WarningManagerContext* context, const std::stri
                         const std::u16string& format, std::int32_t count, const value::ValueArray* const* values,
                         const std::u16string& message);
 
+/// The context's log. When it has none, one is made (by the installed factory
+/// function, else as a WarningLogXML that the context destroys through this
+/// module's destroy function) and installed first; null when it cannot be made.
+warning::utWarningLog* getOrCreateWarningLog(warning::WarningManagerContext* context);
+
 }  // namespace orrery::lang::diagnostic

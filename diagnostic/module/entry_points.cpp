@@ -1,6 +1,7 @@
 // Module start and stop: built-in registration, class registration, warning log.
 #include "diagnostic/module/entry_points.hpp"
 
+#include "diagnostic/log/warning_log_factory.hpp"
 #include "diagnostic/module/reset_last_printed_warning.hpp"
 
 #include <orrery/services/services.hpp>
@@ -22,8 +23,15 @@ void registerResetBuiltin() {
 void LxInitialize_diagnostic() {
     // A failure leaves the flag unset, so a later initialisation tries again.
     boost::call_once(resetBuiltinRegistered, &registerResetBuiltin);
-    // The Warning class, the log functions and the XML warning log are
-    // registered here once the class and the log exist in the module.
+    // The Warning class and the log functions are registered here once the class
+    // exists in the module.
+
+    // Both functions go in before the log is set: the context destroys a log
+    // with the destroy function installed at the moment it was set.
+    orrery::warning::utSetWarningLogFactoryFcn(&orrery::lang::diagnostic::createWarningLog);
+    orrery::warning::utSetWarningLogDestroyFcn(&orrery::lang::diagnostic::destroyWarningLog);
+    if (auto* context = orrery::warning::utGetWarningManagerContext())
+        orrery::warning::utSetWarningLog(context, orrery::lang::diagnostic::createWarningLog());
 }
 
 void LxTerminate_diagnostic() {

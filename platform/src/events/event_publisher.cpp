@@ -13,4 +13,6 @@ boost::signals2::scoped_connection EventPublisher::subscribe(const Listener& lis
 
 void EventPublisher::publish(const Event& event) const { signal_(event); }
 
+bool EventPublisher::hasListeners() const { return !signal_.empty(); }
+
 }  // namespace orrery::events

@@ -75,3 +75,13 @@ TEST(EventPublisher, ListenersMayChangeTheListDuringAPublish) {
     publisher.publish(NumberEvent(2));
     EXPECT_EQ(heard, (std::vector<int>{902}));
 }
+
+TEST(EventPublisher, HasListenersOnlyWhileOneIsSubscribed) {
+    EventPublisher publisher;
+    EXPECT_FALSE(publisher.hasListeners());
+    std::vector<int> heard;
+    std::optional<boost::signals2::scoped_connection> connection = publisher.subscribe(recorder(heard, 1));
+    EXPECT_TRUE(publisher.hasListeners());
+    connection.reset();
+    EXPECT_FALSE(publisher.hasListeners());
+}

@@ -32,6 +32,10 @@ public:
     /// passes out at once; the listeners after it are not called for this event.
     void publish(const Event& event) const;
 
+    /// True when at least one listener is subscribed, so that a published event
+    /// has a receiver; publishers of costly events may skip building them otherwise.
+    bool hasListeners() const;
+
 private:
     Signal signal_;
 };
