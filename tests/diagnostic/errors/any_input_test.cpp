@@ -29,13 +29,10 @@ std::vector<std::pair<std::string, ValueArray>> everyKindOfValue() {
         {"double scalar", ValueArray::scalar(2.5)},
         {"NaN", ValueArray::scalar(std::nan(""))},
         {"double 0-by-0", ValueArray()},
-        {"double 2-by-3", ValueArray::zeros(ClassId::Double, Dims{2, 3})},
         {"logical true", ValueArray::logicalScalar(true)},
-        {"logical vector", ValueArray::logicals(Dims{1, 3}, {true, false, true})},
         {"char row", chars("a:b")},
         {"format", chars("%d %s %c %e\\n")},
         {"char 0-by-0", chars("")},
-        {"char 1-by-0", ValueArray::charArray(Dims{1, 0}, u"")},
         {"char matrix", ValueArray::charArray(Dims{2, 2}, u"abcd")},
         {"char non-ASCII", ValueArray::chars(u"r\u00e9set")},
         {"char lone surrogate", ValueArray::chars(u"a:b\xd800</")},
@@ -43,7 +40,6 @@ std::vector<std::pair<std::string, ValueArray>> everyKindOfValue() {
         {"string scalar", ValueArray::string(u"x:y")},
         {"string missing", ValueArray::missingString()},
         {"string 1-by-2", ValueArray::strings(Dims{1, 2}, {u"a", std::nullopt})},
-        {"string 0-by-0", ValueArray::strings(Dims{0, 0}, {})},
         {"cell 1-by-2", ValueArray::cell(Dims{1, 2})},
         {"struct 1-by-1 bare", ValueArray::structArray(Dims{1, 1})},
         {"struct 1-by-1 unset fields", ValueArray::structArray(Dims{1, 1}, {"identifier", "message", "stack"})},
@@ -54,8 +50,7 @@ std::vector<std::pair<std::string, ValueArray>> everyKindOfValue() {
         {"message 0-by-0", ValueArray::objectArray(ocos::messageClass(), Dims{0, 0})},
         {"other object", ValueArray::objectArray(thing, Dims{1, 1})},
     };
-    for (ClassId id : {ClassId::Single, ClassId::Int8, ClassId::UInt8, ClassId::Int16, ClassId::UInt16, ClassId::Int32,
-                       ClassId::UInt32, ClassId::Int64, ClassId::UInt64}) {
+    for (ClassId id : {ClassId::Single, ClassId::Int8, ClassId::UInt64}) {
         values.emplace_back(std::string(value::className(id)) + " scalar", ValueArray::numericScalar(id, 1));
         values.emplace_back(std::string(value::className(id)) + " empty", ValueArray::zeros(id, Dims{0, 0}));
     }
