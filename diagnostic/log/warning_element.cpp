@@ -1,0 +1,60 @@
+// One warning record as the "warning" element of a warning log.
+#include "diagnostic/log/warning_element.hpp"
+
+#include "diagnostic/log/log_text_escape.hpp"
+#include "diagnostic/log/log_time_text.hpp"
+
+#include <orrery/text/text.hpp>
+
+#include <charconv>
+#include <cstdint>
+#include <string_view>
+
+namespace orrery::lang::diagnostic {
+namespace {
+
+// The log's one indentation unit: elements of a warning stand one unit deeper.
+constexpr std::u16string_view kIndent = u"    ";
+
+void appendLineNumber(std::u16string& out, std::uint32_t line) {
+    char digits[10];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), line).ptr;
+    for (const char* p = digits; p != end; ++p) out += static_cast<char16_t>(*p);
+}
+
+void appendLeaf(std::u16string& out, std::u16string_view tag, std::u16string_view text) {
+    out.append(kIndent).append(kIndent).append(u"<").append(tag).append(u">");
+    out.append(escapeLogText(text)).append(u"</").append(tag).append(u">\n");
+}
+
+void appendArgument(std::u16string& out, const PrintfArgument& argument) {
+    std::u16string value;
+    const std::u16string type = argument.getTypeAndValue(value);
+    out.append(kIndent).append(kIndent).append(u"<arg type=\"").append(type).append(u"\">");
+    out.append(escapeLogText(value)).append(u"</arg>\n");
+}
+
+void appendFrame(std::u16string& out, const StackFrame& frame) {
+    out.append(kIndent).append(kIndent).append(u"<frame file=\"").append(escapeLogText(frame.file));
+    out.append(u"\" name=\"").append(escapeLogText(frame.name)).append(u"\" line=\"");
+    appendLineNumber(out, frame.line);
+    out.append(u"\"/>\n");
+}
+
+}  // namespace
+
+std::u16string renderWarningElement(const Warning& warning) {
+    std::u16string out;
+    // Identifiers are checked where they are made; the log writes them as they are.
+    out.append(kIndent).append(u"<warning identifier=\"").append(text::utf8ToUtf16Lossy(warning.getIdentifier()));
+    out.append(u"\" wasDisabled=\"").append(warning.getWasDisabled() ? u"true" : u"false");
+    out.append(u"\" time=\"").append(logTimeText(warning.getTime())).append(u"\">\n");
+    appendLeaf(out, u"message", warning.getMessage());
+    appendLeaf(out, u"format", warning.getFormat());
+    for (const PrintfArgument& argument : warning.getArguments()) appendArgument(out, argument);
+    for (const StackFrame& frame : warning.getStack()) appendFrame(out, frame);
+    out.append(kIndent).append(u"</warning>\n");
+    return out;
+}
+
+}  // namespace orrery::lang::diagnostic

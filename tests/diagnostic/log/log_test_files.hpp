@@ -1,0 +1,59 @@
+// Files for the warning log tests: a temporary working folder, a file's bytes, and
+// the independent well-formedness check of a written log.
+#pragma once
+
+#include <orrery/text/text.hpp>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace orrery::test {
+
+/// A fresh folder made the current folder while it lives; afterwards the previous
+/// current folder is restored and the folder removed with all it holds.
+class TemporaryWorkingFolder {
+public:
+    TemporaryWorkingFolder() {
+        static int made = 0;
+        path_ = std::filesystem::temp_directory_path() /
+                ("orrery_log_" + std::to_string(::getpid()) + "_" + std::to_string(++made));
+        std::filesystem::create_directories(path_);
+        path_ = std::filesystem::canonical(path_);
+        std::filesystem::current_path(path_);
+    }
+    ~TemporaryWorkingFolder() {
+        std::error_code ignored;
+        std::filesystem::current_path(previous_, ignored);
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TemporaryWorkingFolder(const TemporaryWorkingFolder&) = delete;
+    TemporaryWorkingFolder& operator=(const TemporaryWorkingFolder&) = delete;
+
+    /// The absolute path of name in the folder, as UTF-16.
+    std::u16string file(const std::string& name) const { return text::utf8ToUtf16((path_ / name).string()); }
+
+private:
+    std::filesystem::path previous_ = std::filesystem::current_path();
+    std::filesystem::path path_;
+};
+
+/// All bytes of the file.
+inline std::string fileBytes(const std::u16string& path) {
+    std::ifstream in(text::utf16ToUtf8(path), std::ios_base::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+/// Fails the test unless xmllint, which shares nothing with the log's own reader,
+/// finds the file well-formed.
+inline void expectWellFormedXml(const std::u16string& path) {
+    const std::string command = "xmllint --noout '" + text::utf16ToUtf8(path) + "'";
+    EXPECT_EQ(std::system(command.c_str()), 0) << command;
+}
+
+}  // namespace orrery::test

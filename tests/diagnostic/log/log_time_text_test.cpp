@@ -1,0 +1,78 @@
+// Tests of the time text of a warning log under several time zones.
+#include "diagnostic/log/log_time_text.hpp"
+
+#include <orrery/interp/dates.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <optional>
+#include <string>
+
+using orrery::interp::datenumFromDatevec;
+using orrery::lang::diagnostic::logTimeText;
+
+namespace {
+
+/// Selects a zone for one test and gives the process its own zone back afterwards.
+class ZoneScope {
+public:
+    explicit ZoneScope(const char* zone) {
+        ::setenv("TZ", zone, 1);
+        ::tzset();
+    }
+    ~ZoneScope() {
+        if (previous_)
+            ::setenv("TZ", previous_->c_str(), 1);
+        else
+            ::unsetenv("TZ");
+        ::tzset();
+    }
+    ZoneScope(const ZoneScope&) = delete;
+    ZoneScope& operator=(const ZoneScope&) = delete;
+
+private:
+    std::optional<std::string> previous_ =
+        std::getenv("TZ") != nullptr ? std::optional<std::string>(std::getenv("TZ")) : std::nullopt;
+};
+
+bool daylightSavingNow() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return local.tm_isdst > 0;
+}
+
+}  // namespace
+
+TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart) {
+    struct Case {
+        const char* zone;
+        const char16_t* text;
+    };
+    // The last zone has Berlin's rules with summer time all year: the standard
+    // offset is written while summer time is in force.
+    const Case cases[] = {
+        {"UTC", u"2024-03-05 14:07:09.250 +0000"},
+        {"America/New_York", u"2024-03-05 14:07:09.250 -0500"},
+        {"Asia/Kolkata", u"2024-03-05 14:07:09.250 +0530"},
+        {"America/St_Johns", u"2024-03-05 14:07:09.250 -03-30"},
+        {"Europe/Berlin", u"2024-03-05 14:07:09.250 +0100"},
+        {"CET-1CEST-2,J1/0,J365/25", u"2024-03-05 14:07:09.250 +0100"},
+    };
+    const double serial = datenumFromDatevec(2024, 3, 5, 14, 7, 9.25);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.zone);
+        const ZoneScope zone(c.zone);
+        EXPECT_EQ(logTimeText(serial), c.text);
+    }
+    const ZoneScope summer("CET-1CEST-2,J1/0,J365/25");
+    EXPECT_TRUE(daylightSavingNow());
+}
+
+TEST(LogTimeText, WritesMillisecondsAndCarriesARoundedMinute) {
+    EXPECT_EQ(logTimeText(datenumFromDatevec(2023, 11, 30, 23, 59, 59.999), {-5, 0}), u"2023-11-30 23:59:59.999 -0500");
+    EXPECT_EQ(logTimeText(datenumFromDatevec(2023, 12, 31, 23, 59, 59.9996), {0, 0}), u"2024-01-01 00:00:00.000 +0000");
+    EXPECT_EQ(logTimeText(datenumFromDatevec(1, 1, 1, 0, 0, 0), {12, 45}), u"0001-01-01 00:00:00.000 +1245");
+}
