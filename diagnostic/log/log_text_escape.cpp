@@ -12,6 +12,10 @@ bool isWrittenAsItIs(char16_t c) {
            (c >= 0xFDF0 && c <= 0xFFFD);
 }
 
+bool isMarkup(char16_t c) {
+    return c == u'"' || c == u'#' || c == u'&' || c == u'\'' || c == u'<' || c == u'>';
+}
+
 void appendHexEscape(std::u16string& out, char16_t c) {
     constexpr char16_t kDigits[] = u"0123456789abcdef";
     char16_t digits[4];
@@ -28,10 +32,13 @@ void appendHexEscape(std::u16string& out, char16_t c) {
 
 }  // namespace
 
-std::u16string escapeLogText(std::u16string_view text) {
-    std::u16string out;
-    out.reserve(text.size() + kEscapeHeadroom);
-    for (const char16_t c : text) {
+void appendEscapedLogText(std::u16string& out, std::u16string_view text) {
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i];
+        if (isWrittenAsItIs(c) && !isMarkup(c)) continue;
+        out.append(text.substr(start, i - start));  // the plain run before c, in one piece
+        start = i + 1;
         switch (c) {
             case u'"': out += u"&quot;"; break;
             case u'#': out += u"##"; break;
@@ -39,13 +46,16 @@ std::u16string escapeLogText(std::u16string_view text) {
             case u'\'': out += u"&apos;"; break;
             case u'<': out += u"&lt;"; break;
             case u'>': out += u"&gt;"; break;
-            default:
-                if (isWrittenAsItIs(c))
-                    out += c;
-                else
-                    appendHexEscape(out, c);
+            default: appendHexEscape(out, c);
         }
     }
+    out.append(text.substr(start));
+}
+
+std::u16string escapeLogText(std::u16string_view text) {
+    std::u16string out;
+    out.reserve(text.size() + kEscapeHeadroom);
+    appendEscapedLogText(out, text);
     return out;
 }
 

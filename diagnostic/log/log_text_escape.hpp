@@ -14,4 +14,7 @@ namespace orrery::lang::diagnostic {
 /// surrogate, so it converts to UTF-8 without loss.
 std::u16string escapeLogText(std::u16string_view text);
 
+/// Appends escapeLogText(text) to out, for a writer assembling a larger text.
+void appendEscapedLogText(std::u16string& out, std::u16string_view text);
+
 }  // namespace orrery::lang::diagnostic

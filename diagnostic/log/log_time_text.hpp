@@ -13,7 +13,7 @@ namespace orrery::lang::diagnostic {
 std::u16string logTimeText(double serial, interp::UtcOffset offset);
 
 /// The same with the local standard-time offset from UTC at the moment of writing
-/// (interp::localUtcOffset), not at the warning's time.
+/// (interp::localUtcOffsetAt the current second), not at the warning's time.
 std::u16string logTimeText(double serial);
 
 }  // namespace orrery::lang::diagnostic

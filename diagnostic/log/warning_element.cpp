@@ -15,6 +15,8 @@ namespace {
 
 // The log's one indentation unit: elements of a warning stand one unit deeper.
 constexpr std::u16string_view kIndent = u"    ";
+// Room for the tags, the time and a few arguments and frames, reserved up front.
+constexpr std::size_t kTypicalElementLength = 512;
 
 void appendLineNumber(std::u16string& out, std::uint32_t line) {
     char digits[10];
@@ -24,19 +26,24 @@ void appendLineNumber(std::u16string& out, std::uint32_t line) {
 
 void appendLeaf(std::u16string& out, std::u16string_view tag, std::u16string_view text) {
     out.append(kIndent).append(kIndent).append(u"<").append(tag).append(u">");
-    out.append(escapeLogText(text)).append(u"</").append(tag).append(u">\n");
+    appendEscapedLogText(out, text);
+    out.append(u"</").append(tag).append(u">\n");
 }
 
 void appendArgument(std::u16string& out, const PrintfArgument& argument) {
     std::u16string value;
     const std::u16string type = argument.getTypeAndValue(value);
     out.append(kIndent).append(kIndent).append(u"<arg type=\"").append(type).append(u"\">");
-    out.append(escapeLogText(value)).append(u"</arg>\n");
+    appendEscapedLogText(out, value);
+    out.append(u"</arg>\n");
 }
 
 void appendFrame(std::u16string& out, const StackFrame& frame) {
-    out.append(kIndent).append(kIndent).append(u"<frame file=\"").append(escapeLogText(frame.file));
-    out.append(u"\" name=\"").append(escapeLogText(frame.name)).append(u"\" line=\"");
+    out.append(kIndent).append(kIndent).append(u"<frame file=\"");
+    appendEscapedLogText(out, frame.file);
+    out.append(u"\" name=\"");
+    appendEscapedLogText(out, frame.name);
+    out.append(u"\" line=\"");
     appendLineNumber(out, frame.line);
     out.append(u"\"/>\n");
 }
@@ -45,6 +52,7 @@ void appendFrame(std::u16string& out, const StackFrame& frame) {
 
 std::u16string renderWarningElement(const Warning& warning) {
     std::u16string out;
+    out.reserve(kTypicalElementLength + warning.getMessage().size() + warning.getFormat().size());
     // Identifiers are checked where they are made; the log writes them as they are.
     out.append(kIndent).append(u"<warning identifier=\"").append(text::utf8ToUtf16Lossy(warning.getIdentifier()));
     out.append(u"\" wasDisabled=\"").append(warning.getWasDisabled() ? u"true" : u"false");
