@@ -34,7 +34,7 @@ Warning typicalWarning() {
     warning.setFormat(u"value %d is out of range [%d, %d]");
     warning.setArguments({std::int32_t{42}, std::int32_t{0}, std::int32_t{10}});
     warning.setStack(std::vector<orrery::lang::StackFrame>{{u"/home/user/project/check_range.orr", u"check_range", 17},
-                                                          {u"/home/user/project/main.orr", u"main", 4}});
+                                                           {u"/home/user/project/main.orr", u"main", 4}});
     warning.setTime(orrery::interp::nowSerial());
     return warning;
 }

@@ -31,8 +31,7 @@ std::shared_ptr<LogOutputStream> createLog(const std::u16string& path) {
 
 }  // namespace
 
-LogOutputStream::LogOutputStream(std::u16string path, std::unique_ptr<std::ostream> stream,
-                                 std::uint64_t footerStart)
+LogOutputStream::LogOutputStream(std::u16string path, std::unique_ptr<std::ostream> stream, std::uint64_t footerStart)
     : path_(std::move(path)), stream_(std::move(stream)), footerStart_(footerStart) {
     stream_->exceptions(std::ios_base::failbit | std::ios_base::badbit);
 }

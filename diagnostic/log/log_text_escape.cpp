@@ -12,9 +12,7 @@ bool isWrittenAsItIs(char16_t c) {
            (c >= 0xFDF0 && c <= 0xFFFD);
 }
 
-bool isMarkup(char16_t c) {
-    return c == u'"' || c == u'#' || c == u'&' || c == u'\'' || c == u'<' || c == u'>';
-}
+bool isMarkup(char16_t c) { return c == u'"' || c == u'#' || c == u'&' || c == u'\'' || c == u'<' || c == u'>'; }
 
 void appendHexEscape(std::u16string& out, char16_t c) {
     constexpr char16_t kDigits[] = u"0123456789abcdef";

@@ -39,10 +39,11 @@ interp::UtcOffset currentUtcOffset() {
 std::u16string logTimeText(double serial, interp::UtcOffset offset) {
     const interp::DateVector date = interp::calcDatevec(serial, 0);
     char buffer[32];
-    const int length = std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d %02d:%02d:%06.3f %+03d%02d",
-                                     static_cast<std::int32_t>(date.year), static_cast<std::int32_t>(date.month),
-                                     static_cast<std::int32_t>(date.day), static_cast<std::int32_t>(date.hour),
-                                     static_cast<std::int32_t>(date.minute), date.seconds, offset.hours, offset.minutes);
+    const int length =
+        std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d %02d:%02d:%06.3f %+03d%02d",
+                      static_cast<std::int32_t>(date.year), static_cast<std::int32_t>(date.month),
+                      static_cast<std::int32_t>(date.day), static_cast<std::int32_t>(date.hour),
+                      static_cast<std::int32_t>(date.minute), date.seconds, offset.hours, offset.minutes);
     const auto written = static_cast<std::size_t>(length < 0 ? 0 : length);
     return text::asciiToUtf16(std::string_view(buffer, written < sizeof buffer ? written : sizeof buffer - 1));
 }

@@ -76,8 +76,7 @@ Warning goldenWarning() {
     warning.setMessage(u"a<b & 'd' \"q\" #1\nx\ty");
     warning.setFormat(u"%s %d");
     warning.setArguments({std::u16string(u"\U0001F600"), std::int32_t{-7}, std::uint32_t{4000000000U},
-                          std::int64_t{-9000000000}, std::uint64_t{18446744073709551615U}, 0.1,
-                          std::u16string(u"#")});
+                          std::int64_t{-9000000000}, std::uint64_t{18446744073709551615U}, 0.1, std::u16string(u"#")});
     warning.setStack(std::vector<lang::StackFrame>{{u"/w/a&b.orr", u"f<g>", 12}, {u"", u"", 0}});
     return warning;
 }
