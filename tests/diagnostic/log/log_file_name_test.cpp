@@ -1,7 +1,7 @@
 // Tests of the one form of a warning log file name, in a temporary working folder.
 #include "diagnostic/log/log_file_name.hpp"
 
-#include "tests/diagnostic/log/log_test_files.hpp"
+#include "tests/diagnostic/log/log_test_support.hpp"
 
 #include <orrery/except/msg_id_exception.hpp>
 

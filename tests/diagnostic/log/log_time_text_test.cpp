@@ -1,41 +1,18 @@
 // Tests of the time text of a warning log under several time zones.
 #include "diagnostic/log/log_time_text.hpp"
 
+#include "tests/diagnostic/log/log_test_support.hpp"
+
 #include <orrery/interp/dates.hpp>
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <ctime>
-#include <optional>
-#include <string>
 
 using orrery::interp::datenumFromDatevec;
 using orrery::lang::diagnostic::logTimeText;
 
 namespace {
-
-/// Selects a zone for one test and gives the process its own zone back afterwards.
-class ZoneScope {
-public:
-    explicit ZoneScope(const char* zone) {
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    ~ZoneScope() {
-        if (previous_)
-            ::setenv("TZ", previous_->c_str(), 1);
-        else
-            ::unsetenv("TZ");
-        ::tzset();
-    }
-    ZoneScope(const ZoneScope&) = delete;
-    ZoneScope& operator=(const ZoneScope&) = delete;
-
-private:
-    std::optional<std::string> previous_ =
-        std::getenv("TZ") != nullptr ? std::optional<std::string>(std::getenv("TZ")) : std::nullopt;
-};
 
 bool daylightSavingNow() {
     const std::time_t now = std::time(nullptr);
@@ -64,14 +41,14 @@ TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart)
     const double serial = datenumFromDatevec(2024, 3, 5, 14, 7, 9.25);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.zone);
-        const ZoneScope zone(c.zone);
+        const orrery::test::ZoneScope zone(c.zone);
         EXPECT_EQ(logTimeText(serial), c.text);
     }
-    const ZoneScope summer("CET-1CEST-2,J1/0,J365/25");
+    const orrery::test::ZoneScope summer("CET-1CEST-2,J1/0,J365/25");
     EXPECT_TRUE(daylightSavingNow());
 }
 
-TEST(LogTimeText, WritesMillisecondsAndCarriesARoundedMinute) {
+TEST(LogTimeText, WritesMillisecondsAndCarriesARoundedOne) {
     EXPECT_EQ(logTimeText(datenumFromDatevec(2023, 11, 30, 23, 59, 59.999), {-5, 0}), u"2023-11-30 23:59:59.999 -0500");
     EXPECT_EQ(logTimeText(datenumFromDatevec(2023, 12, 31, 23, 59, 59.9996), {0, 0}), u"2024-01-01 00:00:00.000 +0000");
     EXPECT_EQ(logTimeText(datenumFromDatevec(1, 1, 1, 0, 0, 0), {12, 45}), u"0001-01-01 00:00:00.000 +1245");

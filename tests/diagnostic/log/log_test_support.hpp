@@ -1,5 +1,5 @@
-// Files for the warning log tests: a temporary working folder, a file's bytes, and
-// the independent well-formedness check of a written log.
+// Support of the warning log tests: a temporary working folder, a file's bytes,
+// the independent well-formedness check of a written log, and a time zone scope.
 #pragma once
 
 #include <orrery/text/text.hpp>
@@ -8,9 +8,11 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string>
 
 namespace orrery::test {
@@ -55,5 +57,25 @@ inline void expectWellFormedXml(const std::u16string& path) {
     const std::string command = "xmllint --noout '" + text::utf16ToUtf8(path) + "'";
     EXPECT_EQ(std::system(command.c_str()), 0) << command;
 }
+
+/// Selects a time zone while it lives, then gives the process its own zone back.
+class ZoneScope {
+public:
+    explicit ZoneScope(const char* zone) { use(zone); }
+    ~ZoneScope() { use(previous_ ? previous_->c_str() : nullptr); }
+    ZoneScope(const ZoneScope&) = delete;
+    ZoneScope& operator=(const ZoneScope&) = delete;
+
+private:
+    static void use(const char* zone) {
+        if (zone != nullptr)
+            ::setenv("TZ", zone, 1);
+        else
+            ::unsetenv("TZ");
+        ::tzset();
+    }
+    std::optional<std::string> previous_ =
+        std::getenv("TZ") != nullptr ? std::optional<std::string>(std::getenv("TZ")) : std::nullopt;
+};
 
 }  // namespace orrery::test
