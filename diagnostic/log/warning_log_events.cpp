@@ -29,10 +29,24 @@ constexpr std::array<std::string_view, 3> kFrameAttributes{"file", "line", "name
 
 bool named(const XML_Char* name, const char* expected) { return std::strcmp(name, expected) == 0; }
 
-std::u16string utf16(std::string_view utf8) { return text::utf8ToUtf16(utf8); }
+// Attribute values and character data reach the records as UTF-16. Expat hands
+// over well-formed UTF-8, mostly ASCII, which is widened here directly.
+void appendUtf16(std::u16string& out, std::string_view utf8) {
+    const std::size_t start = out.size();
+    out.resize(start + utf8.size());
+    std::size_t ascii = 0;
+    for (; ascii < utf8.size() && static_cast<unsigned char>(utf8[ascii]) < 0x80; ++ascii)
+        out[start + ascii] = static_cast<char16_t>(utf8[ascii]);
+    if (ascii == utf8.size()) return;
+    out.resize(start + ascii);
+    out += text::utf8ToUtf16(utf8.substr(ascii));
+}
 
-// Attribute values and character data reach the records as UTF-16.
-void appendUtf16(std::u16string& out, std::string_view utf8) { out += text::utf8ToUtf16(utf8); }
+std::u16string utf16(std::string_view utf8) {
+    std::u16string out;
+    appendUtf16(out, utf8);
+    return out;
+}
 
 void checkNoAttributes(const XML_Char* name, const XML_Char** attributes) { checkAttributes(name, attributes, {}, {}); }
 
