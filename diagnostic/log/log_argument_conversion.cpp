@@ -6,7 +6,9 @@
 #include <boost/lexical_cast.hpp>
 
 #include <array>
+#include <charconv>
 #include <cstdint>
+#include <system_error>
 #include <typeinfo>
 #include <utility>
 
@@ -25,13 +27,57 @@ constexpr std::array<std::pair<std::string_view, LogArgType>, 7> kTypeNames{{
 
 // Numbers are plain ASCII; a text with any other character cannot convert.
 template <class Number>
-Number lexicalNumber(const std::u16string& text) {
+std::string narrowNumber(const std::u16string& text) {
     std::string narrow(text.size(), '\0');
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] > 0x7F) throw boost::bad_lexical_cast(typeid(std::u16string), typeid(Number));
         narrow[i] = static_cast<char>(text[i]);
     }
-    return boost::lexical_cast<Number>(narrow);
+    return narrow;
+}
+
+template <class Number>
+Number lexicalNumber(const std::u16string& text) {
+    const std::string narrow = narrowNumber<Number>(text);
+    return boost::lexical_cast<Number>(narrow.data(), narrow.size());
+}
+
+// A plain decimal ("-12.5", "1e-3", ".5", "+2."): an optional sign, digits with
+// at most one point and at least one digit, then an optional exponent with digits.
+bool isPlainDecimal(std::string_view text) {
+    std::size_t i = text.empty() || (text[0] != '+' && text[0] != '-') ? 0 : 1;
+    const auto digits = [&] {
+        const std::size_t from = i;
+        while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i;
+        return i - from;
+    };
+    std::size_t mantissa = digits();
+    if (i < text.size() && text[i] == '.') {
+        ++i;
+        mantissa += digits();
+    }
+    if (mantissa == 0) return false;
+    if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+        ++i;
+        if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+        if (digits() == 0) return false;
+    }
+    return i == text.size();
+}
+
+// The stream extraction behind lexical_cast reads a plain decimal as the C
+// library's correctly rounded conversion does, which std::from_chars gives without
+// the stream; anything else, and any number out of range, goes through
+// lexical_cast itself.
+double lexicalDouble(const std::u16string& text) {
+    const std::string narrow = narrowNumber<double>(text);
+    if (isPlainDecimal(narrow)) {
+        const char* first = narrow.data() + (narrow[0] == '+' ? 1 : 0);
+        double value = 0;
+        const auto [end, error] = std::from_chars(first, narrow.data() + narrow.size(), value);
+        if (error == std::errc() && end == narrow.data() + narrow.size()) return value;
+    }
+    return boost::lexical_cast<double>(narrow.data(), narrow.size());
 }
 
 }  // namespace
@@ -49,7 +95,7 @@ PrintfArgument convertLogArgument(LogArgType type, std::u16string text) {
         case LogArgType::UInt32: return lexicalNumber<std::uint32_t>(text);
         case LogArgType::Int64: return lexicalNumber<std::int64_t>(text);
         case LogArgType::UInt64: return lexicalNumber<std::uint64_t>(text);
-        case LogArgType::Double: return lexicalNumber<double>(text);
+        case LogArgType::Double: return lexicalDouble(text);
         case LogArgType::String: return text;
     }
     except::internalError("warning log reader", "unknown argument type");

@@ -123,7 +123,7 @@ void WarningLogEvents::startFrame(const XML_Char** values) {
     const std::string_view line = values[1];
     if (line.find_first_not_of("0123456789") != std::string_view::npos)
         except::throwMessage(ids::XmlInvalidLine(utf16(line)));
-    frame.line = boost::lexical_cast<std::uint32_t>(line);
+    frame.line = boost::lexical_cast<std::uint32_t>(line.data(), line.size());
     if (!scanOnly_) pendingFrames_.push_back(std::move(frame));
 }
 

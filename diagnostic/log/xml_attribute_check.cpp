@@ -19,7 +19,9 @@ void checkAttributes(const XML_Char* element, const XML_Char** attributes, std::
     for (; *attributes != nullptr; attributes += 2) {
         const std::string_view name = attributes[0];
         std::size_t i = 0;
-        while (i < expected.size() && (values[i] != nullptr || !text::equalsIgnoreCaseAscii(expected[i], name))) ++i;
+        while (i < expected.size() &&
+               (values[i] != nullptr || (expected[i] != name && !text::equalsIgnoreCaseAscii(expected[i], name))))
+            ++i;
         if (i == expected.size())
             except::throwMessage(ids::XmlUnknownAttribute(text::utf8ToUtf16(element), text::utf8ToUtf16(name)));
         values[i] = attributes[1];

@@ -87,3 +87,29 @@ TEST(LogArgumentConversion, NotANumberKeepsItsSign) {
         EXPECT_EQ(std::signbit(value), text[0] == u'-');
     }
 }
+
+// Plain decimals take a shorter way than the stream; both must give the same double.
+TEST(LogArgumentConversion, DoublesReadAsTheLexicalConversionReadsThem) {
+    const char* const texts[] = {
+        "0",   "-0",       "+1.",      ".5",     "-.5e-3", "1e5",    "1E+05",
+        "0.1", "2.5e-324", "4.9e-324", "1e-400", "1e309",  "-1e309", "123456789012345678901234567890",
+        ".",   "+",        "1e",       "1e+",    "1..2",   "1.2.3",  "--1",
+        "+-1", "1e5.5",    "0x1p3",    "1,5",    " 1",     "1 ",     "e5"};
+    for (const char* text : texts) {
+        SCOPED_TRACE(text);
+        const std::string narrow = text;
+        std::optional<double> expected;
+        try {
+            expected = boost::lexical_cast<double>(narrow);
+        } catch (const boost::bad_lexical_cast&) {
+        }
+        const std::u16string wide(narrow.begin(), narrow.end());
+        if (expected) {
+            const double value = std::get<double>(convertLogArgument(LogArgType::Double, wide).value());
+            EXPECT_EQ(std::signbit(value), std::signbit(*expected));
+            EXPECT_EQ(value, *expected);
+        } else {
+            EXPECT_THROW(convertLogArgument(LogArgType::Double, wide), boost::bad_lexical_cast);
+        }
+    }
+}
