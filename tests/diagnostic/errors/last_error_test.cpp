@@ -52,15 +52,6 @@ TEST_F(Lasterr, FillsOnlyTheRequestedOutputs) {
     EXPECT_EQ(textOf(callBuiltin(&bnLastErrMsg, 1, {})[0]), "m");
 }
 
-TEST_F(Lasterr, StripsHotLinksUnlessFlagged) {
-    LastError::Set("", u"See <a href=\"help:x\">the help</a>.", std::nullopt);
-    EXPECT_EQ(textOf(callBuiltin(&bnLastErrMsg, 1, {})[0]), "See the help.");
-    // The flag may be a string; the input after it is the new message.
-    const auto outputs = callBuiltin(&bnLastErrMsg, 1, {ValueArray::string(u"-hotlinks"), chars("next")});
-    EXPECT_EQ(textOf(outputs[0]), "See <a href=\"help:x\">the help</a>.");
-    EXPECT_EQ(LastError::Get().message, u"next");
-}
-
 TEST_F(Lasterr, NewMessageClearsIdentifierAndStackUnlessGivenTextIdentifier) {
     LastError::Set("a:b", u"x", ValueArray::stackStructure(0));
     callBuiltin(&bnLastErrMsg, 0, {chars(""), ValueArray::scalar(5)});

@@ -126,35 +126,23 @@ TEST_F(StateCommands, TwoOutputsWarnThatFrequenciesAreObsolete) {
 }
 
 TEST_F(StateCommands, RefusesTheObsoleteForms) {
+    const char* const obsolete = "ORRERY:warning:debugOptionIsObsolete";
+    const char* const debugOn = "The command 'warning debug on' is obsolete; use 'dbstop if warning' instead.";
+    const char* const debugOff = "The command 'warning debug off' is obsolete; use 'dbclear if warning' instead.";
+    const char* const frequency = "The settings once and always are obsolete and no longer accepted.";
     const std::tuple<std::vector<const char*>, const char*, const char*> cases[] = {
-        {{"debug"},
-         "ORRERY:warning:debugOptionIsObsolete",
-         "The command 'warning debug on' is obsolete; use 'dbstop if warning' instead."},
-        {{"debug", "on"},
-         "ORRERY:warning:debugOptionIsObsolete",
-         "The command 'warning debug on' is obsolete; use 'dbstop if warning' instead."},
-        {{"on", "debug"},
-         "ORRERY:warning:debugOptionIsObsolete",
-         "The command 'warning debug on' is obsolete; use 'dbstop if warning' instead."},
-        {{"off", "debug"},
-         "ORRERY:warning:debugOptionIsObsolete",
-         "The command 'warning debug off' is obsolete; use 'dbclear if warning' instead."},
-        {{"debug", "off"},
-         "ORRERY:warning:debugOptionIsObsolete",
-         "The command 'warning debug off' is obsolete; use 'dbclear if warning' instead."},
-        {{"query", "debug"},
-         "ORRERY:warning:debugOptionIsObsolete",
-         "The command 'warning query debug' is obsolete; use 'dbstatus' instead."},
+        {{"debug"}, obsolete, debugOn},
+        {{"debug", "on"}, obsolete, debugOn},
+        {{"on", "debug"}, obsolete, debugOn},
+        {{"off", "debug"}, obsolete, debugOff},
+        {{"debug", "off"}, obsolete, debugOff},
+        {{"query", "debug"}, obsolete, "The command 'warning query debug' is obsolete; use 'dbstatus' instead."},
         {{"debug", "ON"}, "ORRERY:warning:illegalDebugSetting", "The debug setting must be on or off, not 'ON'."},
         {{"off", "Debug"},
          "ORRERY:warning:unknownSettingOrId",
          "'Debug' is neither a warning setting nor a message identifier."},
-        {{"once"},
-         "ORRERY:warning:OnceAndAlwaysObsolete",
-         "The settings once and always are obsolete and no longer accepted."},
-        {{"always", "ORRERY:x:y"},
-         "ORRERY:warning:OnceAndAlwaysObsolete",
-         "The settings once and always are obsolete and no longer accepted."},
+        {{"once"}, "ORRERY:warning:OnceAndAlwaysObsolete", frequency},
+        {{"always", "ORRERY:x:y"}, "ORRERY:warning:OnceAndAlwaysObsolete", frequency},
     };
     for (const auto& [words, identifier, text] : cases) {
         SCOPED_TRACE(std::string(words[0]) + (words.size() > 1 ? std::string(" ") + words[1] : ""));
