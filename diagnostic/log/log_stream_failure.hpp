@@ -11,9 +11,14 @@
 
 namespace orrery::lang::diagnostic {
 
+/// The text of a stream failure: the system's description of the error that the
+/// failed operation met (error, an errno value), or else the stream's own text.
+inline std::u16string streamFailureText(const std::ios_base::failure& failure, int error) {
+    return text::utf8ToUtf16Lossy(error != 0 ? std::generic_category().message(error) : std::string(failure.what()));
+}
+
 /// Runs operation on a stream whose exception mask is set; a stream failure is
-/// raised as Key with the path and the failure's text: the system's description
-/// of the error that the operation met (errno), or else the stream's own text.
+/// raised as Key with the path and streamFailureText.
 template <class Key, class Operation>
 void raisingStreamFailureAs(const std::u16string& path, Operation&& operation) {
     errno = 0;
@@ -21,8 +26,7 @@ void raisingStreamFailureAs(const std::u16string& path, Operation&& operation) {
         operation();
     } catch (const std::ios_base::failure& failure) {
         const int error = errno;
-        const std::string reason = error != 0 ? std::generic_category().message(error) : std::string(failure.what());
-        except::throwMessage(Key(path, text::utf8ToUtf16Lossy(reason)));
+        except::throwMessage(Key(path, streamFailureText(failure, error)));
     }
 }
 

@@ -4,6 +4,8 @@
 
 #include "diagnostic/log/expat_parser.hpp"
 #include "diagnostic/log/log_file_ids.hpp"
+#include "diagnostic/log/log_file_name.hpp"
+#include "diagnostic/log/log_stream_failure.hpp"
 #include "diagnostic/log/warning_log_events.hpp"
 #include "diagnostic/log/xml_parser_ids.hpp"
 
@@ -16,7 +18,6 @@
 #include <fstream>
 #include <ios>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace orrery::lang::diagnostic {
@@ -26,12 +27,6 @@ namespace ids = orrery::diagnostic::ids;
 
 constexpr std::streamsize kBlockSize = 1024;
 constexpr std::streamsize kLargestBlock = std::streamsize{1} << 28;
-
-// The cause of a stream failure: the system's error when one was recorded, else
-// the stream's own text.
-std::u16string streamFailureText(const std::ios_base::failure& failure, int error) {
-    return text::utf8ToUtf16Lossy(error != 0 ? std::generic_category().message(error) : std::string(failure.what()));
-}
 
 // One read of one file: the parser, the stream and the state machine. Expat calls
 // back through C frames, so a failure inside a callback is caught there, the
@@ -146,6 +141,10 @@ std::vector<Warning> readWarningLogFile(const std::u16string& path) {
     WarningLogReader reader(path, false);
     reader.read();
     return std::move(reader.events().warnings());
+}
+
+std::vector<Warning> readWarningLog(const std::u16string& fileName) {
+    return readWarningLogFile(normaliseLogFileName(fileName));
 }
 
 std::uint64_t findLogEnd(const std::u16string& fileName) {

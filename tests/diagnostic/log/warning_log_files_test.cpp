@@ -7,6 +7,8 @@
 
 #include "tests/diagnostic/log/log_test_support.hpp"
 
+#include "tests/support/expect_error.hpp"
+
 #include <orrery/except/msg_id_exception.hpp>
 #include <orrery/interp/dates.hpp>
 #include <orrery/text/text.hpp>
@@ -18,6 +20,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -126,6 +129,47 @@ TEST(WarningLogFile, ANewLogIsACompleteEmptyDocumentAndEachElementGoesBeforeTheF
     log->writeElement(text::utf16ToUtf8(lang::diagnostic::renderWarningElement(empty)));
     EXPECT_EQ(fileBytes(path), kHeader + kGoldenElement + kShortElement + kFooter);
     test::expectWellFormedXml(path);
+}
+
+TEST(WarningLogFile, AReopenedLogKeepsItsBytesAndTakesTheNextWarningBeforeItsFooter) {
+    const test::ZoneScope utc("UTC");
+    const test::TemporaryWorkingFolder folder;
+    const std::u16string path = folder.file("again.xml");
+    lang::diagnostic::openLogForWriting(path)->writeElement(
+        text::utf16ToUtf8(lang::diagnostic::renderWarningElement(goldenWarning())));
+    const auto log = lang::diagnostic::openLogForWriting(path);
+    EXPECT_EQ(fileBytes(path), kHeader + kGoldenElement + kFooter);
+    Warning empty;
+    empty.setTime(1);
+    log->writeElement(text::utf16ToUtf8(lang::diagnostic::renderWarningElement(empty)));
+    EXPECT_EQ(fileBytes(path), kHeader + kGoldenElement + kShortElement + kFooter);
+    test::expectWellFormedXml(path);
+}
+
+TEST(WarningLogFile, AnExistingFileThatIsNoLogIsNeitherOpenedNorChanged) {
+    const test::TemporaryWorkingFolder folder;
+    struct Case {
+        const char* name;
+        std::string bytes;
+        const char* identifier;
+    };
+    const Case cases[] = {
+        {"truncated.xml", kHeader + "    <warning identifier=\"a:b\"", "ORRERY:warning:XMLParser:ParseError"},
+        {"empty.xml", "", "ORRERY:warning:XMLParser:ParseError"},
+        {"text.xml", "not xml\n", "ORRERY:warning:XMLParser:ParseError"},
+        {"other.xml", "<?xml version=\"1.0\"?>\n<html></html>\n", "ORRERY:warning:XMLParser:UnknownElement"},
+    };
+    WarningLogXML log;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const std::u16string path = folder.file(c.name);
+        std::ofstream(text::utf16ToUtf8(path), std::ios_base::binary) << c.bytes;
+        for (int attempt = 0; attempt < 2; ++attempt) EXPECT_MSGID(log.openLog(path), c.identifier);
+        EXPECT_EQ(fileBytes(path), c.bytes);
+    }
+    std::filesystem::create_directory("folder.xml");
+    expectFailure([&] { log.openLog(u"folder.xml"); }, "ORRERY:warning:LogFile:OpenFileAppend",
+                  {folder.file("folder.xml"), std::u16string(u"Is a directory")});
 }
 
 // ---- opening and closing by name ---------------------------------------------------------------
