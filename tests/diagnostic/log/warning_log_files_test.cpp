@@ -158,6 +158,7 @@ TEST(WarningLogFile, AnExistingFileThatIsNoLogIsNeitherOpenedNorChanged) {
         {"empty.xml", "", "ORRERY:warning:XMLParser:ParseError"},
         {"text.xml", "not xml\n", "ORRERY:warning:XMLParser:ParseError"},
         {"other.xml", "<?xml version=\"1.0\"?>\n<html></html>\n", "ORRERY:warning:XMLParser:UnknownElement"},
+        {"lone.xml", "<warning identifier=\"\" wasDisabled=\"true\" time=\"\"/>\n", "ORRERY:warning:LogFile:FileSeek"},
     };
     WarningLogXML log;
     for (const Case& c : cases) {
