@@ -47,9 +47,3 @@ TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart)
     const orrery::test::ZoneScope summer("CET-1CEST-2,J1/0,J365/25");
     EXPECT_TRUE(daylightSavingNow());
 }
-
-TEST(LogTimeText, WritesMillisecondsAndCarriesARoundedOne) {
-    EXPECT_EQ(logTimeText(datenumFromDatevec(2023, 11, 30, 23, 59, 59.999), {-5, 0}), u"2023-11-30 23:59:59.999 -0500");
-    EXPECT_EQ(logTimeText(datenumFromDatevec(2023, 12, 31, 23, 59, 59.9996), {0, 0}), u"2024-01-01 00:00:00.000 +0000");
-    EXPECT_EQ(logTimeText(datenumFromDatevec(1, 1, 1, 0, 0, 0), {12, 45}), u"0001-01-01 00:00:00.000 +1245");
-}
