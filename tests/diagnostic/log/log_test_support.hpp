@@ -22,6 +22,9 @@ namespace orrery::test {
 class TemporaryWorkingFolder {
 public:
     TemporaryWorkingFolder() {
+        // The message catalogue may be named relative to the folder the tests started in.
+        if (const char* catalogue = std::getenv("ORRERY_CATALOGUE_DIR"))
+            ::setenv("ORRERY_CATALOGUE_DIR", std::filesystem::absolute(catalogue).c_str(), 1);
         static int made = 0;
         path_ = std::filesystem::temp_directory_path() /
                 ("orrery_log_" + std::to_string(::getpid()) + "_" + std::to_string(++made));
