@@ -6,7 +6,6 @@
 
 #include <orrery/text/text.hpp>
 
-#include <charconv>
 #include <cstdint>
 #include <string_view>
 
@@ -17,12 +16,6 @@ namespace {
 constexpr std::u16string_view kIndent = u"    ";
 // Room for the tags, the time and a few arguments and frames, reserved up front.
 constexpr std::size_t kTypicalElementLength = 512;
-
-void appendLineNumber(std::u16string& out, std::uint32_t line) {
-    char digits[10];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), line).ptr;
-    for (const char* p = digits; p != end; ++p) out += static_cast<char16_t>(*p);
-}
 
 void appendLeaf(std::u16string& out, std::u16string_view tag, std::u16string_view text) {
     out.append(kIndent).append(kIndent).append(u"<").append(tag).append(u">");
@@ -44,7 +37,9 @@ void appendFrame(std::u16string& out, const StackFrame& frame) {
     out.append(u"\" name=\"");
     appendEscapedLogText(out, frame.name);
     out.append(u"\" line=\"");
-    appendLineNumber(out, frame.line);
+    std::u16string line;
+    PrintfArgument(frame.line).getTypeAndValue(line);  // plain decimal, as an unsigned 32-bit value's text
+    out.append(line);
     out.append(u"\"/>\n");
 }
 
