@@ -28,13 +28,11 @@ void issue(warning::WarningManagerContext* context, const std::string& identifie
     lang::diagnostic::issueAndLogWarning(context, identifier, message, 1, values, message);
 }
 
-// Installs a factory and destroy function pair that count their calls; the
-// previous pair comes back at the end.
-class CountingLogFunctions {
-public:
-    explicit CountingLogFunctions(bool factoryFails = false) {
-        made = 0;
-        destroyed = 0;
+// Installs a factory, failing or not, and a destroy function that count their
+// calls; the previous pair comes back at the end.
+struct CountingLogFunctions {
+    explicit CountingLogFunctions(bool factoryFails) {
+        made = destroyed = 0;
         fails = factoryFails;
         warning::utSetWarningLogFactoryFcn([]() -> warning::utWarningLog* {
             ++made;
@@ -46,19 +44,14 @@ public:
         });
     }
     ~CountingLogFunctions() {
-        warning::utSetWarningLogFactoryFcn(previousFactory_);
-        warning::utSetWarningLogDestroyFcn(previousDestroy_);
+        warning::utSetWarningLogFactoryFcn(previousFactory);
+        warning::utSetWarningLogDestroyFcn(previousDestroy);
     }
-    CountingLogFunctions(const CountingLogFunctions&) = delete;
-    CountingLogFunctions& operator=(const CountingLogFunctions&) = delete;
-
     static inline int made = 0;
     static inline int destroyed = 0;
     static inline bool fails = false;
-
-private:
-    warning::utWarningLogFactoryFcn previousFactory_ = warning::utGetWarningLogFactoryFcn();
-    warning::utWarningLogDestroyFcn previousDestroy_ = warning::utGetWarningLogDestroyFcn();
+    warning::utWarningLogFactoryFcn previousFactory = warning::utGetWarningLogFactoryFcn();
+    warning::utWarningLogDestroyFcn previousDestroy = warning::utGetWarningLogDestroyFcn();
 };
 
 // A fresh interpreter instance whose issued warnings are collected.
@@ -92,26 +85,25 @@ TEST_F(IssueAndLog, MakesAndInstallsALogWhenTheContextHasNone) {
     EXPECT_EQ(signalled_.size(), 2U);
 }
 
-TEST(GetOrCreateWarningLog, MakesTheLogOnceThroughTheInstalledFactoryAndTheContextDestroysIt) {
-    const CountingLogFunctions functions;
-    {
-        interp::VirtualMachineScope machine;
-        auto* context = machine.machine().warningManagerContext();
-        auto* log = getOrCreateWarningLog(context);
-        EXPECT_EQ(getOrCreateWarningLog(context), log);
-        EXPECT_EQ(CountingLogFunctions::made, 1);
-        EXPECT_EQ(CountingLogFunctions::destroyed, 0);
-    }
-    EXPECT_EQ(CountingLogFunctions::destroyed, 1);
-}
-
-TEST_F(IssueAndLog, AFactoryThatFailsLeavesTheContextWithoutALogAndTheWarningIsStillShown) {
+TEST_F(IssueAndLog, AFactoryThatFailsLeavesNoLogAndTheWarningIsStillShown) {
     const CountingLogFunctions functions(true);
     const console::ConsoleCapture console;
     issue(context(), "test:nolog", u"shown");
     EXPECT_EQ(warning::utGetWarningLog(context()), nullptr);
     EXPECT_EQ(console.error(), "Warning: shown\n");
     EXPECT_TRUE(signalled_.empty());
+}
+
+TEST(GetOrCreateWarningLog, MakesTheLogOnceThroughTheInstalledFactoryAndTheContextDestroysIt) {
+    const CountingLogFunctions functions(false);
+    {
+        interp::VirtualMachineScope machine;
+        auto* context = machine.machine().warningManagerContext();
+        EXPECT_EQ(getOrCreateWarningLog(context), getOrCreateWarningLog(context));
+        EXPECT_EQ(CountingLogFunctions::made, 1);
+        EXPECT_EQ(CountingLogFunctions::destroyed, 0);
+    }
+    EXPECT_EQ(CountingLogFunctions::destroyed, 1);
 }
 
 TEST_F(IssueAndLog, AWarningInTheErrorStateRaisesAndIsNotLogged) {

@@ -1,5 +1,7 @@
-// Tests of the time text of a warning log under several time zones.
+// Tests of the time text of a warning log: written under several time zones, and
+// scanned exactly as the C library's scanf reads the log's time format.
 #include "diagnostic/log/log_time_text.hpp"
+#include "diagnostic/log/log_time_reading.hpp"
 
 #include "tests/diagnostic/log/log_test_support.hpp"
 
@@ -7,9 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <ctime>
 
-using orrery::lang::diagnostic::logTimeText;
+using orrery::lang::diagnostic::LogTimeFields;
 
 TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart) {
     // The last zone has Berlin's rules with summer time all year: the standard
@@ -25,11 +28,29 @@ TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart)
     for (const auto& [zone, text] : cases) {
         SCOPED_TRACE(zone);
         const orrery::test::ZoneScope scope(zone);
-        EXPECT_EQ(logTimeText(serial), text);
+        EXPECT_EQ(orrery::lang::diagnostic::logTimeText(serial), text);
     }
     const orrery::test::ZoneScope summer(cases[4].first);
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
     EXPECT_GT(local.tm_isdst, 0) << "the last zone is in summer time";
+}
+
+TEST(LogTimeReading, ScansAsTheCLibraryScansTheTimeFormat) {
+    for (const char* text :
+         {"2024-03-05 14:07:09.250 +0100", "2024-03-01 10:00:00.000 -03-30", "2024-03-01 10:00:00 +0100",
+          "2024-03-01T10:00:00.000 +0100", "2024- 3-+1\t\n1:-2: 3.,.7+5", "2024-03-01 10:00:00.-5 -",
+          "99999999999-4294967297-2147483648 -9999999999999999999999:0:0.0 0", "2024--03-01 10:00:00.000 +0100", "",
+          "+-1-1-1 1:1:1.1 1"}) {
+        SCOPED_TRACE(text);
+        LogTimeFields expected{};
+        const bool read = std::sscanf(text, "%d-%d-%d %d:%d:%d%*[.,]%d %d", &expected[0], &expected[1], &expected[2],
+                                      &expected[3], &expected[4], &expected[5], &expected[6], &expected[7]) == 8;
+        LogTimeFields fields{};
+        EXPECT_EQ(orrery::lang::diagnostic::scanLogTime(text, fields), read);
+        if (read) {
+            EXPECT_EQ(fields, expected);
+        }
+    }
 }
