@@ -20,6 +20,10 @@
 
 namespace orrery::test {
 
+/// The bytes before and after the warnings of every written log.
+inline const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<log>\n";
+inline const std::string kFooter = "</log>\n";
+
 /// A fresh folder made the current folder while it lives; afterwards the previous
 /// current folder is restored and the folder removed with all it holds.
 class TemporaryWorkingFolder {

@@ -26,11 +26,10 @@ using namespace orrery;
 using lang::diagnostic::Warning;
 using lang::diagnostic::WarningLogXML;
 using test::fileBytes;
+using test::kFooter;
+using test::kHeader;
 
 namespace {
-
-const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<log>\n";
-const std::string kFooter = "</log>\n";
 
 using Arguments = std::vector<catalogue::MessageArgument>;
 

@@ -22,11 +22,11 @@ using lang::StackFrame;
 using lang::diagnostic::findLogEnd;
 using lang::diagnostic::readWarningLogFile;
 using lang::diagnostic::Warning;
+using test::kFooter;
+using test::kHeader;
 
 namespace {
 
-const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<log>\n";
-const std::string kFooter = "</log>\n";
 const std::string kStart = R"(<warning identifier="a:b" wasDisabled="false" time="2024-03-01 10:00:00.250 +0100">)";
 
 /// A log made of the header, the given elements and the footer.
