@@ -13,7 +13,9 @@
 #include <ctime>
 #include <string>
 
+using orrery::interp::datenumFromDatevec;
 using orrery::lang::diagnostic::LogTimeFields;
+using orrery::lang::diagnostic::logTimeText;
 
 TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart) {
     // The last zone has Berlin's rules with summer time all year: the standard
@@ -25,11 +27,11 @@ TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart)
         {"America/St_Johns", u"2024-03-05 14:07:09.250 -03-30"},
         {"CET-1CEST-2,J1/0,J365/25", u"2024-03-05 14:07:09.250 +0100"},
     };
-    const double serial = orrery::interp::datenumFromDatevec(2024, 3, 5, 14, 7, 9.25);
+    const double serial = datenumFromDatevec(2024, 3, 5, 14, 7, 9.25);
     for (const auto& [zone, text] : cases) {
         SCOPED_TRACE(zone);
         const orrery::test::ZoneScope scope(zone);
-        EXPECT_EQ(orrery::lang::diagnostic::logTimeText(serial), text);
+        EXPECT_EQ(logTimeText(serial), text);
     }
     const orrery::test::ZoneScope summer(cases[4].first);
     const std::time_t now = std::time(nullptr);
