@@ -1,7 +1,7 @@
 # Fails unless the dynamic symbols that MODULE defines are exactly the names that
-# EXPECTED lists for BUILD_TYPE: each listed name must be exported and each export
-# listed. EXPECTED holds one demangled name a line; "[Debug] NAME" lists NAME for
-# that build type only; blank lines and lines starting with "#" are skipped.
+# EXPECTED lists: each listed name must be exported and each export listed.
+# EXPECTED holds one demangled name a line; blank lines and lines starting with
+# "#" are skipped.
 cmake_minimum_required(VERSION 3.25)
 execute_process(COMMAND nm -D --defined-only -C ${MODULE} OUTPUT_VARIABLE out RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
@@ -20,12 +20,6 @@ set(listed "")
 file(STRINGS ${EXPECTED} rules)
 foreach(rule IN LISTS rules)
   string(STRIP "${rule}" rule)
-  if(rule MATCHES "^\\[([A-Za-z]+)\\] (.*)$")
-    if(NOT CMAKE_MATCH_1 STREQUAL "${BUILD_TYPE}")
-      continue()
-    endif()
-    set(rule "${CMAKE_MATCH_2}")
-  endif()
   if(NOT rule STREQUAL "" AND NOT rule MATCHES "^#")
     list(APPEND listed "${rule}")
   endif()
@@ -46,6 +40,6 @@ if(failures)
   list(LENGTH failures count)
   list(JOIN failures "\n" text)
   message(NOTICE "${text}")
-  message(FATAL_ERROR "${count} difference(s) between ${MODULE} and ${EXPECTED} (${BUILD_TYPE} build)")
+  message(FATAL_ERROR "${count} difference(s) between ${MODULE} and ${EXPECTED} ")
 endif()
 message(STATUS "exports match ${EXPECTED}")
