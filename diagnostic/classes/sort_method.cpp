@@ -7,13 +7,19 @@
 #include <orrery/except/throw_message.hpp>
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace orrery::lang::diagnostic {
 namespace {
 
 using value::ValueArray;
+
+// A record and its position from 1 within its run. A type of this file, so that
+// the sort's instantiations stay inside the module.
+struct Entry {
+    const Warning* record;
+    std::size_t position;
+};
 
 struct Sorted {
     ValueArray records;
@@ -23,14 +29,14 @@ struct Sorted {
 /// Sorts the run of length elements that starts at linear index start into the
 /// same places of the outputs; positions count from 1 within the run.
 void sortRun(const ValueArray& input, std::size_t start, std::size_t length, Sorted& out) {
-    std::vector<std::pair<const Warning*, std::size_t>> run;
+    std::vector<Entry> run;
     run.reserve(length);
-    for (std::size_t k = 0; k < length; ++k) run.emplace_back(&warningRecordAt(input, start + k), k + 1);
-    std::stable_sort(run.begin(), run.end(), [](const auto& a, const auto& b) { return *a.first < *b.first; });
+    for (std::size_t k = 0; k < length; ++k) run.push_back({&warningRecordAt(input, start + k), k + 1});
+    std::stable_sort(run.begin(), run.end(), [](const Entry& a, const Entry& b) { return *a.record < *b.record; });
     auto positions = out.positions.mutableData<double>();
     for (std::size_t j = 0; j < length; ++j) {
-        setWarningAt(out.records, start + j, *run[j].first);
-        positions[start + j] = static_cast<double>(run[j].second);
+        setWarningAt(out.records, start + j, *run[j].record);
+        positions[start + j] = static_cast<double>(run[j].position);
     }
 }
 
