@@ -50,6 +50,7 @@ WarningInfo::WarningInfo() : COSClassInfo(std::string(kWarningClassPath)) {
     addMethod(std::make_shared<EqMI>());
     addMethod(std::make_shared<NeMI>());
     addMethod(std::make_shared<SortMI>());
+    addMethod(std::make_shared<DispMI>());
     setInstanceFactory([] { return std::make_shared<WarningInstance>(); });
 }
 

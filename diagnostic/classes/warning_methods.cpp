@@ -4,8 +4,10 @@
 #include "diagnostic/classes/class_ids.hpp"
 #include "diagnostic/classes/warning_info.hpp"
 #include "diagnostic/classes/warning_objects.hpp"
+#include "diagnostic/classes/warning_table.hpp"
 
 #include <orrery/except/throw_message.hpp>
+#include <orrery/warning/warning_manager.hpp>
 
 namespace orrery::lang::diagnostic {
 
@@ -67,6 +69,13 @@ void IsEqualMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* plhs, std::i
     bool equal = a.dims() == b.dims();
     for (std::size_t i = 0; equal && i < a.numel(); ++i) equal = !(warningRecordAt(a, i) != warningRecordAt(b, i));
     plhs[0] = value::makeValue(ValueArray::logicalScalar(equal));
+}
+
+DispMI::DispMI() : WarningInstanceMI("disp") {}
+
+void DispMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* /*plhs*/, std::int32_t /*nrhs*/,
+                    const ValueArray* const* prhs) const {
+    warning::utPrintf("%s", warningTable(*prhs[0]).c_str());
 }
 
 }  // namespace orrery::lang::diagnostic

@@ -1,4 +1,5 @@
-// Method descriptions of the Warning class: comparison (isequal, eq, ne) and sort.
+// Method descriptions of the Warning class: comparison (isequal, eq, ne), sort
+// and its display (disp).
 #pragma once
 
 #include <orrery/ocos/method_info.hpp>
@@ -66,6 +67,14 @@ public:
 class SortMI final : public WarningInstanceMI {
 public:
     SortMI();
+    void invoke(std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
+                const value::ValueArray* const* prhs) const override;
+};
+
+/// disp(A): prints the table of warningTable on the console.
+class DispMI final : public WarningInstanceMI {
+public:
+    DispMI();
     void invoke(std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
                 const value::ValueArray* const* prhs) const override;
 };

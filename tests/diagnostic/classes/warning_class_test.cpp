@@ -41,7 +41,7 @@ TEST(WarningClass, IsRegisteredWithItsPropertiesMethodsAndLogFunctionsInOrder) {
     }
     EXPECT_EQ(types, (std::vector<std::string>{"asciiString", "unicodeString", "unicodeString", "cell", "struct",
                                                "double scalar", "logical scalar"}));
-    EXPECT_EQ(info->getMethodNames(), (std::vector<std::string>{"isequal", "eq", "ne", "sort"}));
+    EXPECT_EQ(info->getMethodNames(), (std::vector<std::string>{"isequal", "eq", "ne", "sort", "disp"}));
     EXPECT_EQ(ocos::findNamespace("orrery.internal.diagnostic.log")->getFunctionNames(),
               (std::vector<std::string>{"open", "close", "load"}));
     const auto& load = ocos::getFunction("orrery.internal.diagnostic.log.load")->getSignature();
