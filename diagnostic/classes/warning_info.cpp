@@ -35,10 +35,10 @@ WarningInfo::WarningInfo() : COSClassInfo(std::string(kWarningClassPath)) {
         [](Warning& w, std::u16string v) { w.setFormat(std::move(v)); }));
     addProperty(recordProperty(
         "arguments", "cell", [](const Warning& w) { return std::move(*w.getArgumentsAsValueArray()); },
-        [](Warning& w, ValueArray v) { w.setArguments(&v); }));
+        [](Warning& w, const ValueArray& v) { w.setArguments(&v); }));
     addProperty(recordProperty(
         "stack", "struct", [](const Warning& w) { return std::move(*w.getStackAsValueArray()); },
-        [](Warning& w, ValueArray v) { w.setStack(&v); }));
+        [](Warning& w, const ValueArray& v) { w.setStack(&v); }));
     addProperty(recordProperty(
         "time", "double scalar", [](const Warning& w) { return w.getTime(); },
         [](Warning& w, double v) { w.setTime(v); }));

@@ -14,8 +14,8 @@ inline constexpr std::string_view kWarningClassPath = "orrery.internal.diagnosti
 /// this order and with these declared types: identifier ("asciiString"), message
 /// and format ("unicodeString"), arguments ("cell"), stack ("struct"), time
 /// ("double scalar") and wasDisabled ("logical scalar"); then the methods
-/// isequal, eq, ne and sort, and disp, which shows the array as a table. A property read followed by a write of the value
-/// read leaves the record unchanged.
+/// isequal, eq, ne and sort, and disp, which shows the array as a table. A property read followed by a write of the
+/// value read leaves the record unchanged.
 class WarningInfo final : public ocos::COSClassInfo {
 public:
     WarningInfo();

@@ -38,7 +38,8 @@ std::string timeText(double serial) {
 
 // The message on one line, cut with "..." past the column's width.
 std::u16string oneLine(std::u16string text) {
-    std::replace_if(text.begin(), text.end(), [](char16_t c) { return c == u'\n' || c == u'\r' || c == u'\t'; }, u' ');
+    std::replace_if(
+        text.begin(), text.end(), [](char16_t c) { return c == u'\n' || c == u'\r' || c == u'\t'; }, u' ');
     if (text.size() > kMessageWidth) text = text.substr(0, kMessageWidth - 3) + u"...";
     return text;
 }

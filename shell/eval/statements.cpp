@@ -10,9 +10,9 @@
 #include "shell/values/operators.hpp"
 
 #include <orrery/console/console_sink.hpp>
-#include <orrery/ocos/dispatch.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
+#include <orrery/ocos/dispatch.hpp>
 #include <orrery/text/text.hpp>
 
 #include <optional>

@@ -34,8 +34,8 @@ class WarningObjectsTest : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
         shell::registerHostBuiltins();
-        module_ = std::make_unique<shell::startup::DiagnosticModule>(std::string(ORRERY_OUTPUT_DIR) +
-                                                                     "/libdiagnostic.so");
+        module_ =
+            std::make_unique<shell::startup::DiagnosticModule>(std::string(ORRERY_OUTPUT_DIR) + "/libdiagnostic.so");
     }
     static void TearDownTestSuite() { module_.reset(); }
 
@@ -77,7 +77,8 @@ TEST_F(WarningObjectsTest, BehaveAsValuesOfTheLanguage) {
         {"w(2) ~= w", "ans =\n  1x3 logical array\n    1   0   1\n"},
         {"[isequal(w, w), isequal(w, w(1:2)), isequal(w, [w(1), w(1), w(3)])]",
          "ans =\n  1x3 logical array\n    1   0   0\n"},
-        {"[s, i] = sort(w); disp(i), s.identifier", "    2   3   1\nans = 'demo:early'\nans = 0x0 empty char\nans = 'demo:late'\n"},
+        {"[s, i] = sort(w); disp(i), s.identifier",
+         "    2   3   1\nans = 'demo:early'\nans = 0x0 empty char\nans = 'demo:late'\n"},
         {"[~, i] = sort([w; w(3), w(1:2)]); disp(i)", "    2   1   2\n    1   2   1\n"},
         {"v = w; v(2).message = \"x\"; v(2).message, w(2).message", "ans = 'x'\nans = 'early'\n"},
         {"w(1:0)", "ans =\n  1x0 Warning array with no warnings.\n"},

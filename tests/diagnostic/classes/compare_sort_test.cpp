@@ -11,8 +11,8 @@ struct CompareCase {
     const char* name;
     ValueArray a;
     ValueArray b;
-    Dims dims;                   // of the answer
-    std::vector<bool> eq;        // empty with dimagree
+    Dims dims;             // of the answer
+    std::vector<bool> eq;  // empty with dimagree
     bool dimagree = false;
 };
 
@@ -24,7 +24,10 @@ TEST(WarningCompare, EqComparesEqualSizesOrExpandsAScalarAndNeIsItsNegation) {
     const CompareCase cases[] = {
         {"matrix with scalar", matrix, one, Dims{2, 3}, {true, false, true, false, true, false}},
         {"scalar with matrix", one, matrix, Dims{2, 3}, {true, false, true, false, true, false}},
-        {"equal sizes", matrix, warningsAt(Dims{2, 3}, {1, 1, 1, 3, 3, 4}), Dims{2, 3},
+        {"equal sizes",
+         matrix,
+         warningsAt(Dims{2, 3}, {1, 1, 1, 3, 3, 4}),
+         Dims{2, 3},
          {true, false, true, true, false, true}},
         {"two scalars", one, warningsAt(Dims{1, 1}, {2}), Dims{1, 1}, {false}},
         {"two empty arrays", warnings(Dims{0, 0}, {}), warnings(Dims{0, 0}, {}), Dims{0, 0}, {}},
@@ -95,7 +98,11 @@ TEST(WarningSort, SortsEachColumnOrTheRowStablyWithPositionsFromOne) {
     } const cases[] = {
         {"row, equal records keep their order", Dims{1, 4}, {3, 1, 2, 1}, {1, 1, 2, 3}, {2, 4, 3, 1}},
         {"column", Dims{3, 1}, {2, 2, 1}, {1, 2, 2}, {3, 1, 2}},
-        {"matrix, positions restart per column", Dims{3, 2}, {3, 1, 2, 5, 6, 4}, {1, 2, 3, 4, 5, 6}, {2, 3, 1, 3, 1, 2}},
+        {"matrix, positions restart per column",
+         Dims{3, 2},
+         {3, 1, 2, 5, 6, 4},
+         {1, 2, 3, 4, 5, 6},
+         {2, 3, 1, 3, 1, 2}},
         {"all equal", Dims{1, 3}, {7, 7, 7}, {7, 7, 7}, {1, 2, 3}},
         {"scalar", Dims{1, 1}, {7}, {7}, {1}},
         {"0-by-0", Dims{0, 0}, {}, {}, {}},

@@ -26,7 +26,8 @@ public:
 class RecordingLogFactory {
 public:
     RecordingLogFactory()
-        : previousFactory_(warning::utGetWarningLogFactoryFcn()), previousDestroy_(warning::utGetWarningLogDestroyFcn()) {
+        : previousFactory_(warning::utGetWarningLogFactoryFcn()),
+          previousDestroy_(warning::utGetWarningLogDestroyFcn()) {
         RecordingLog::calls.clear();
         RecordingLog::made = 0;
         warning::utSetWarningLog(warning::utGetWarningManagerContext(), nullptr);
@@ -78,8 +79,7 @@ TEST(LogFunctions, TheClassSystemChecksTheirArguments) {
         EXPECT_MSGID(callLog(function, 0, {ValueArray::scalar(1)}), "ORRERY:ocos:argumentType");
         EXPECT_MSGID(callLog(function, 0, {ValueArray::missingString()}), "ORRERY:ocos:argumentType");
         EXPECT_MSGID(callLog(function, 0, {}), "ORRERY:notEnoughInputs");
-        EXPECT_MSGID(callLog(function, 0, {ValueArray::chars(u"a"), ValueArray::chars(u"b")}),
-                     "ORRERY:tooManyInputs");
+        EXPECT_MSGID(callLog(function, 0, {ValueArray::chars(u"a"), ValueArray::chars(u"b")}), "ORRERY:tooManyInputs");
     }
     EXPECT_MSGID(callLog("open", 1, {ValueArray::chars(u"a")}), "ORRERY:tooManyOutputs");
     EXPECT_TRUE(RecordingLog::calls.empty());

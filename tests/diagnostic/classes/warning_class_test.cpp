@@ -33,7 +33,7 @@ TEST(WarningClass, IsRegisteredWithItsPropertiesMethodsAndLogFunctionsInOrder) {
     const auto info = ocos::getClass("orrery.internal.diagnostic.Warning");
     EXPECT_EQ(lang::diagnostic::warningClass(), info);
     EXPECT_EQ(info->getPropertyNames(), (std::vector<std::string>{"identifier", "message", "format", "arguments",
-                                                                   "stack", "time", "wasDisabled"}));
+                                                                  "stack", "time", "wasDisabled"}));
     std::vector<std::string> types;
     for (const auto& property : info->getProperties()) {
         types.push_back(property.getType().text().str());
