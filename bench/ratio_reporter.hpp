@@ -15,7 +15,8 @@ namespace orrery::bench {
 
 /// Reports as the console reporter does and remembers, per benchmark function, the
 /// fastest CPU time per iteration over its repetitions (the least disturbed by
-/// other work on the machine). A benchmark "X" is compared with "XFloor".
+/// other work on the machine). A benchmark "X" is compared with "XFloor", and
+/// with "XPeer" when another library does the same work.
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
     /// Colours only on a terminal, so that scripts read plain lines.
@@ -31,15 +32,19 @@ public:
         ConsoleReporter::ReportRuns(runs);
     }
 
-    /// Prints "ratio NAME VALUE" for every benchmark that has a floor; the lines
-    /// are what bench/run.sh collects.
+    /// Prints "ratio NAME VALUE" for every benchmark that has a floor, and "ratio
+    /// NAME/peer VALUE" for every one compared with another library's "XPeer";
+    /// the lines are what bench/run.sh collects.
     void printRatios() const {
         GetOutputStream().flush();
         for (const auto& [name, seconds] : fastest_) {
-            const auto floor = fastest_.find(name + "Floor");
-            if (floor == fastest_.end() || floor->second <= 0) continue;
-            std::printf("ratio %s %.2f (%.0f ns against %.0f ns)\n", name.c_str(), seconds / floor->second,
-                        seconds * 1e9, floor->second * 1e9);
+            for (const char* against : {"Floor", "Peer"}) {
+                const auto other = fastest_.find(name + against);
+                if (other == fastest_.end() || other->second <= 0) continue;
+                const std::string label = name + (std::string(against) == "Peer" ? "/peer" : "");
+                std::printf("ratio %s %.2f (%.0f ns against %.0f ns)\n", label.c_str(), seconds / other->second,
+                            seconds * 1e9, other->second * 1e9);
+            }
         }
         std::fflush(stdout);
     }

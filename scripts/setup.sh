@@ -8,7 +8,7 @@ packages=(
   g++ clang libclang-rt-14-dev clang-format clang-tidy cmake ninja-build pkg-config
   libboost-dev libboost-thread-dev libboost-system-dev
   libexpat1-dev libicu-dev icu-devtools
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libgtest-dev libgmock-dev libbenchmark-dev libspdlog-dev
   libedit-dev libxml2-utils tzdata tmux locales
 )
 

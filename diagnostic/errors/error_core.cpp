@@ -24,7 +24,7 @@ bool isSilentMessage(const ValueArray& first) {
 
 // The analysis and its temporaries end here, before anything is raised.
 except::QExceptionEnvelope describeError(std::int32_t inputCount, const ValueArray* const* inputs) {
-    const MessageInputAnalyzer analyzer(inputCount, inputs, std::string(ids::kErrorPrefix));
+    MessageInputAnalyzer analyzer(inputCount, inputs, std::string(ids::kErrorPrefix));
     switch (analyzer.kind()) {
         case MessageKind::MessageObject: return except::QExceptionEnvelope(*analyzer.ingredients());
         case MessageKind::Structure: {

@@ -16,6 +16,10 @@ namespace orrery::lang::diagnostic {
 /// not convert; nothing is returned in part.
 std::vector<Warning> readWarningLog(const std::u16string& fileName);
 
+/// The records of the log file at path, which is used as given (readWarningLog
+/// after normalising its name). Raises as readWarningLog does.
+std::vector<Warning> readWarningLogFile(const std::u16string& path);
+
 /// The byte offset from the start of the file at which its closing "log" tag
 /// begins (0 when the parser reached none). The name is used as given. Checks the
 /// structure as readWarningLog does, without building records or reading times.

@@ -6,7 +6,6 @@
 #include "diagnostic/warnings/issued_warning_signal.hpp"
 
 #include <orrery/events/warning_events.hpp>
-#include <orrery/except/internal_error.hpp>
 #include <orrery/interp/call_stack.hpp>
 #include <orrery/interp/virtual_machine.hpp>
 #include <orrery/services/services.hpp>
@@ -76,14 +75,6 @@ void WarningLogXML::warn(warning::WarningManagerContext* context, const std::str
     });
 }
 
-void WarningLogXML::openLog(const std::u16string& /*fileName*/) {
-    except::internalError("warning log", "log files are not available yet");
-}
-
-void WarningLogXML::closeLog(const std::u16string& /*fileName*/) {
-    except::internalError("warning log", "log files are not available yet");
-}
-
 // ---- publishing --------------------------------------------------------------------------
 
 std::shared_ptr<events::EventPublisher> WarningLogXML::eventPublisher() const {
@@ -121,7 +112,7 @@ void WarningLogXML::logWarning(warning::WarningManagerContext* context, const st
         const value::ValueArray stack = interp::currentStack();
         record.setStack(&stack);
         record.timestamp();
-        writeToOpenLogs(record);
+        writeToOpenLogs(record);  // a failure here skips the event, the signal and the callback
         publishIssuedWarning(record);
         emitIssuedWarning(record);
     }
@@ -135,9 +126,5 @@ bool WarningLogXML::recordIsObserved() const {
     const auto publisher = eventPublisher();
     return publisher && publisher->hasListeners();
 }
-
-// Rendering records into the open log files comes with the log files themselves;
-// until then the set of open logs stays empty and nothing is written.
-void WarningLogXML::writeToOpenLogs(const Warning& /*warning*/) {}
 
 }  // namespace orrery::lang::diagnostic

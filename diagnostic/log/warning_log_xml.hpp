@@ -4,6 +4,7 @@
 #pragma once
 
 #include "diagnostic/log/bn_warning_log.hpp"
+#include "diagnostic/log/log_output_stream.hpp"
 
 #include <orrery/events/event_publisher.hpp>
 #include <orrery/lang/warning.hpp>
@@ -12,7 +13,6 @@
 
 #include <cstdarg>
 #include <cstdint>
-#include <iosfwd>
 #include <map>
 #include <memory>
 #include <optional>
@@ -53,9 +53,15 @@ public:
     void warn(warning::WarningManagerContext* context, const std::string& identifier, const std::u16string& format,
               std::int32_t count, const value::ValueArray* const* values, const std::u16string& message,
               bool wasDisabled) override;
-    /// Not available yet: raises an internal error.
+    /// Adds the log file to the set of open logs under its normalised name
+    /// (normaliseLogFileName) and opens it for writing (openLogForWriting). Raises
+    /// "ORRERY:warning:LogFile:FileOpen" with the name when it is open already, and
+    /// "FileOpenCase" with the open log's name when that differs only in letter
+    /// case; a failed open leaves the set unchanged.
     void openLog(const std::u16string& fileName) override;
-    /// Not available yet: raises an internal error.
+    /// Removes the log file from the set, which closes it; its footer is already
+    /// in place. Raises "ORRERY:warning:LogFile:FileNotOpen" with the normalised
+    /// name when no open log has it.
     void closeLog(const std::u16string& fileName) override;
 
     /// The current virtual machine's event publisher; empty without a machine or
@@ -68,7 +74,7 @@ public:
 
 private:
     /// Open log files by normalised name, names compared without case.
-    using OpenLogs = std::map<std::u16string, std::shared_ptr<std::ostream>, text::CaseInsensitiveLess>;
+    using OpenLogs = std::map<std::u16string, std::shared_ptr<LogOutputStream>, text::CaseInsensitiveLess>;
 
     template <class AddFormatAndArguments>
     void logWarning(warning::WarningManagerContext* context, const std::string& identifier,

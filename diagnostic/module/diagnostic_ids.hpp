@@ -36,7 +36,6 @@ ORRERY_MESSAGE_KEY(LasterrorNonStructureInput, "ORRERY:lasterror:nonStructureInp
 ORRERY_MESSAGE_KEY(InvalidNumberOfArguments, "ORRERY:builtins:InvalidNumberOfArguments");
 ORRERY_MESSAGE_KEY(NonScalarMessage, "ORRERY:QException:NonScalarMessage");
 ORRERY_MESSAGE_KEY(MustBeStringScalarOrCharacterVector, "ORRERY:string:MustBeStringScalarOrCharacterVector");
-ORRERY_MESSAGE_KEY(MissingNotSupported, "ORRERY:string:MissingNotSupported");
 
 // ---- message input analyzer: texts only; the identifier is the caller's prefix
 // ---- plus the mnemonic ----------------------------------------------------------

@@ -42,13 +42,7 @@ bool answersScalar(const ValueArray& object) {
 
 MessageInputAnalyzer::MessageInputAnalyzer(std::int32_t inputCount, const ValueArray* const* inputs, std::string prefix)
     : prefix_(std::move(prefix)), inputCount_(std::max(inputCount, std::int32_t{0})) {
-    inputs_.reserve(static_cast<std::size_t>(inputCount_));
-    rawInputs_.reserve(static_cast<std::size_t>(inputCount_));
-    for (std::int32_t i = 0; i < inputCount_; ++i) {
-        const ValueArray* input = inputs[i];
-        inputs_.push_back(input ? std::optional<ValueArray>(input->sharedCopy()) : std::nullopt);
-        rawInputs_.push_back(input);
-    }
+    rawInputs_.assign(inputs, inputs + inputCount_);
     if (inputCount_ > 0) classify();
 }
 
@@ -64,7 +58,7 @@ void MessageInputAnalyzer::classify() {
         if (inputCount_ >= 2) fail("unexpectedArguments", ids::AnalyzerUnexpectedArguments());
         return;
     }
-    if (first && first->isTextScalar()) {
+    if (first && first->isTextScalarTolerant()) {
         kind_ = MessageKind::Text;
         analyseText();
         return;
@@ -78,7 +72,7 @@ void MessageInputAnalyzer::classify() {
 }
 
 void MessageInputAnalyzer::analyseText() {
-    const auto candidate = asciiCandidate(rawInputs_[0]->text());
+    const auto candidate = asciiCandidate(rawInputs_[0]->textView());
     if (!candidate || !warning::utIsValidMessageIdentifier(*candidate)) {
         identifier_.clear();
         identifierIndex_ = 0;
@@ -103,7 +97,9 @@ void MessageInputAnalyzer::analyseMessageObject() {
     messageArguments_ = ingredients_->arguments;
 }
 
-void MessageInputAnalyzer::checkFormatArguments() const {
+void MessageInputAnalyzer::checkFormatArguments() {
+    if (formatArgumentsChecked_) return;
+    formatArgumentsChecked_ = true;
     for (std::int32_t i = identifierIndex_ + 1; i < inputCount_; ++i) {
         const ValueArray* argument = rawInputs_[i];
         if (!argument) continue;
@@ -114,19 +110,14 @@ void MessageInputAnalyzer::checkFormatArguments() const {
     }
 }
 
-std::u16string MessageInputAnalyzer::formatMessage() const {
+std::u16string MessageInputAnalyzer::formatMessage() {
     if (kind_ != MessageKind::Text)
         except::internalError("message input analysis", "formatMessage needs a text analysis");
     if (inputCount_ < 2) return rawInputs_[0]->text();
     checkFormatArguments();
-    const ValueArray result = interp::fiSprintf(inputCount_ - identifierIndex_, rawInputs_.data() + identifierIndex_);
-    if (result.is(ClassId::Char)) return std::u16string(result.chars());
-    if (!result.is(ClassId::String) || result.numel() != 1) {
-        except::throwMessage(ids::MustBeStringScalarOrCharacterVector());
-    }
-    const auto& text = result.stringAt(0);
-    if (!text) except::throwMessage(ids::MissingNotSupported());
-    return *text;
+    // The language's sprintf always yields one text, a char row or a string scalar
+    // that is not missing, so its text is the message.
+    return interp::sprintfText(inputCount_ - identifierIndex_, rawInputs_.data() + identifierIndex_);
 }
 
 }  // namespace orrery::diagnostic

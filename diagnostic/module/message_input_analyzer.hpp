@@ -25,8 +25,11 @@ enum class MessageKind : std::int32_t {
 /// yields the identifier and the message text. Every analysis failure carries the
 /// caller's prefix plus its mnemonic ("ORRERY:error:missingMessageArgument") and
 /// the text of the matching "ORRERY:msgInputAnalyzer" catalogue entry. The inputs
-/// are borrowed: they must outlive the analyzer, which keeps shared copies only so
-/// that the values it examines cannot change under it.
+/// are borrowed: they must outlive the analyzer and stay unchanged while it lives.
+///
+/// A first input is text when it is a character row, a string scalar that is not
+/// missing, or the 0-by-0 char array (the language's ''), which is the empty text;
+/// a format after an identifier must be a character row or a string scalar.
 class MessageInputAnalyzer {
 public:
     /// Largest accepted identifier length in bytes.
@@ -40,7 +43,7 @@ public:
     /// the only input, otherwise the language's sprintf of the format and its
     /// arguments. Raises "ORRERY:string:*" when the formatted result is not one
     /// text, and the prefix's "nonScalarInput" for a rejected format argument.
-    std::u16string formatMessage() const;
+    std::u16string formatMessage();
 
     /// The identifier found (UTF-8); empty when the first input is not one.
     const std::string& identifier() const noexcept { return identifier_; }
@@ -62,7 +65,7 @@ private:
     void classify();
     void analyseText();
     void analyseMessageObject();
-    void checkFormatArguments() const;
+    void checkFormatArguments();
     template <class Key>
     [[noreturn]] void fail(std::string_view mnemonic, Key key) const;
 
@@ -71,9 +74,9 @@ private:
     std::int32_t identifierIndex_ = -1;
     MessageKind kind_ = MessageKind::Unclassified;
     std::string prefix_;
-    std::vector<std::optional<value::ValueArray>> inputs_;
     std::vector<const value::ValueArray*> rawInputs_;
     std::int32_t inputCount_;
+    bool formatArgumentsChecked_ = false;
     std::u16string format_;
     std::vector<catalogue::MessageArgument> messageArguments_;
 };

@@ -25,18 +25,13 @@ ValueArray argumentValue(const catalogue::MessageArgument& argument) {
 
 }  // namespace
 
-void issueEmptyWarning(std::int32_t nlhs, value::ValueArrayPtr* plhs, warning::WarningManagerContext* context) {
-    if (nlhs > 2) except::throwTooManyOutputs();
-    if (nlhs > 0) produceLastWarningOutputs(nlhs, plhs, context);
-    warning::utSetLastWarningMsg(context, "", u"");
-}
-
 void issueTextWarning(std::int32_t nlhs, value::ValueArrayPtr* plhs, warning::WarningManagerContext* context,
-                      const MessageInputAnalyzer& analysis) {
+                      MessageInputAnalyzer& analysis) {
     const auto& inputs = analysis.rawInputs();
     const bool hasIdentifier = analysis.identifierIndex() == 1;
     if (nlhs > 2) except::throwTooManyOutputs();
     if (nlhs > 0) produceLastWarningOutputs(nlhs, plhs, context);
+    if (!hasIdentifier && inputs[0]->textView().empty()) return warning::utSetLastWarningMsg(context, "", u"");
     const std::u16string message = analysis.formatMessage();
     const auto formatIndex = static_cast<std::size_t>(analysis.identifierIndex());
     const std::int32_t argumentCount = analysis.inputCount() - (hasIdentifier ? 2 : 1);

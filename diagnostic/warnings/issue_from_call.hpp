@@ -12,15 +12,10 @@ namespace orrery::diagnostic {
 
 /// Issues the warning of a text analysis (a message, or an identifier with a
 /// format and its arguments) after filling the requested outputs with the last
-/// warning from before. An empty message without identifier goes to
-/// issueEmptyWarning instead.
+/// warning from before. Deliberately, an empty message without identifier issues
+/// nothing and only clears the last warning: warning('') is how it is cleared.
 void issueTextWarning(std::int32_t nlhs, value::ValueArrayPtr* plhs, warning::WarningManagerContext* context,
-                      const MessageInputAnalyzer& analysis);
-
-/// The call of an empty message without identifier: fills the requested outputs
-/// with the last warning from before, then clears it. Deliberately, nothing is
-/// issued: warning('') only clears the last warning.
-void issueEmptyWarning(std::int32_t nlhs, value::ValueArrayPtr* plhs, warning::WarningManagerContext* context);
+                      MessageInputAnalyzer& analysis);
 
 /// Issues the warning of a message-object analysis: the object's identifier, its
 /// text in the current locale and its own arguments. Takes no outputs.

@@ -29,14 +29,18 @@ bool looksReversed(const MessageInputAnalyzer& analysis, std::string_view first)
     if (analysis.identifierIndex() != 1 && !isWord(first, "all") && !isWord(first, "last")) return false;
     const ValueArray* second = analysis.rawInputs()[1];
     if (!second->isTextScalar()) return false;
-    const std::string word = orrery::text::utf16ToUtf8Lossy(second->text());
+    const std::string word = orrery::text::utf16ToUtf8Lossy(second->textView());
     return isWord(word, "query") || isWord(word, "on") || isWord(word, "off");
 }
 
 void runTextCall(std::int32_t nlhs, ValueArrayPtr* plhs, WarningManagerContext* context, std::int32_t nrhs,
-                 const ValueArray* const* prhs, const MessageInputAnalyzer& analysis) {
-    const std::string first = orrery::text::utf16ToUtf8Lossy(prhs[0]->text());
-    const auto command = orrery::diagnostic::findWarningCommand(first, nrhs - 1);
+                 const ValueArray* const* prhs, MessageInputAnalyzer& analysis) {
+    // An identifier holds a colon, which no keyword does: it is never a command,
+    // and it is already at hand as text.
+    const bool isIdentifier = analysis.identifierIndex() == 1;
+    const std::string first =
+        isIdentifier ? analysis.identifier() : orrery::text::utf16ToUtf8Lossy(prhs[0]->textView());
+    const auto command = isIdentifier ? nullptr : orrery::diagnostic::findWarningCommand(first, nrhs - 1);
     if (command != nullptr) return orrery::diagnostic::runWarningCommand(command, nlhs, plhs, context, nrhs, prhs);
     if (nrhs == 2 && looksReversed(analysis, first)) {
         orrery::warning::issueCatalogueWarning(
@@ -50,11 +54,7 @@ void runTextCall(std::int32_t nlhs, ValueArrayPtr* plhs, WarningManagerContext* 
 void bnFullWarningFcn(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
     if (nlhs > 2) orrery::except::throwTooManyOutputs();
     WarningManagerContext* context = orrery::diagnostic::warningContext();
-    // The language's '' is the 0-by-0 char array, which the analysis does not
-    // take for text; as a message it is the empty one.
-    if (nrhs >= 1 && prhs[0]->isTextScalarTolerant() && prhs[0]->text().empty())
-        return orrery::diagnostic::issueEmptyWarning(nlhs, plhs, context);
-    const MessageInputAnalyzer analysis(nrhs, prhs, std::string(orrery::diagnostic::ids::kWarningPrefix));
+    MessageInputAnalyzer analysis(nrhs, prhs, std::string(orrery::diagnostic::ids::kWarningPrefix));
     switch (analysis.kind()) {
         case MessageKind::Structure: return bnStructureWarningFcn(nlhs, plhs, nrhs, prhs);
         case MessageKind::Unclassified: return orrery::diagnostic::queryState(nlhs, plhs, context, std::nullopt);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orrery/except/qexception.hpp>
+#include <orrery/interp/function_table.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <gtest/gtest.h>
@@ -46,6 +47,38 @@ inline std::vector<value::ValueArrayPtr> callBuiltin(value::BuiltinFunction buil
     EXPECT_EQ(outputs.back(), nullptr) << "the built-in filled a slot past the requested outputs";
     outputs.pop_back();
     return outputs;
+}
+
+/// Calls the registered function name with the inputs, asking for nlhs outputs;
+/// returns the slots (an unfilled one is a 0-by-0 double), at least one.
+inline std::vector<value::ValueArray> call(std::string_view name, std::int32_t nlhs,
+                                           std::vector<value::ValueArray> inputs) {
+    const InputList list(std::move(inputs));
+    std::vector<value::ValueArrayPtr> slots(static_cast<std::size_t>(std::max(nlhs, std::int32_t{1})));
+    interp::callFunction(name, nlhs, slots.data(), list.count(), list.data());
+    std::vector<value::ValueArray> outputs;
+    for (auto& slot : slots) outputs.push_back(slot ? *slot : value::ValueArray());
+    return outputs;
+}
+
+/// The first output of name(inputs...).
+inline value::ValueArray call1(std::string_view name, std::vector<value::ValueArray> inputs = {}) {
+    return call(name, 1, std::move(inputs))[0];
+}
+
+/// Elements of a numeric, logical or char array as doubles, column-major.
+inline std::vector<double> numbers(const value::ValueArray& v) {
+    std::vector<double> values;
+    for (std::size_t i = 0; i < v.numel(); ++i) values.push_back(v.realAt(i));
+    return values;
+}
+
+/// A 1-by-N cell of the elements.
+inline value::ValueArray cellRow(std::initializer_list<value::ValueArray> elements) {
+    auto cell = value::ValueArray::cell(value::Dims{1, elements.size()});
+    std::size_t i = 0;
+    for (const auto& e : elements) cell.setCellAt(i++, e);
+    return cell;
 }
 
 /// A char row from UTF-8 text ("" gives the 0-by-0 char array).

@@ -42,3 +42,16 @@
             EXPECT_STREQ(error__.what(), expectedMessageUtf8);                \
         }                                                                     \
     } while (false)
+
+/// Runs statement and expects a catalogued failure with the identifier and the
+/// catalogue arguments, a std::vector<orrery::catalogue::MessageArgument>.
+#define EXPECT_MSGID_ARGS(statement, expectedIdentifier, expectedArguments)             \
+    do {                                                                                \
+        try {                                                                           \
+            statement;                                                                  \
+            ADD_FAILURE() << "expected " << (expectedIdentifier) << ", nothing raised"; \
+        } catch (const ::orrery::except::IMsgIDException& failure__) {                  \
+            EXPECT_EQ(failure__.identifier(), std::string(expectedIdentifier));         \
+            EXPECT_EQ(failure__.key().arguments, (expectedArguments));                  \
+        }                                                                               \
+    } while (false)

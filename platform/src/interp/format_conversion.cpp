@@ -5,6 +5,7 @@
 #include <orrery/text/text.hpp>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <stdexcept>
@@ -69,10 +70,25 @@ std::u16string nonFinite(const ResolvedConversion& conversion, double value) {
     return pad(conversion, std::move(body));
 }
 
+// A decimal conversion with no flags, width or precision prints exactly the
+// shortest decimal form, which std::to_chars gives without the C library.
+bool isPlainDecimal(const ResolvedConversion& conversion) {
+    const ConversionFlags& flags = conversion.flags;
+    return !flags.leftAlign && !flags.plusSign && !flags.spaceSign && !flags.zeroPad && !conversion.width &&
+           !conversion.precision;
+}
+
+std::u16string plainDecimal(std::int64_t value) {
+    std::array<char, 24> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    return std::u16string(digits.data(), end);
+}
+
 std::u16string formatInteger(const ResolvedConversion& conversion, const Number& number) {
     const char type = conversion.type;
     const bool isSigned = type == 'd' || type == 'i';
     if (const auto* whole = std::get_if<std::int64_t>(&number.exact)) {
+        if (isSigned && isPlainDecimal(conversion)) return plainDecimal(*whole);
         if (isSigned)
             return printC(cFormat(conversion, type, "ll", conversion.precision), static_cast<long long>(*whole));
         if (*whole >= 0)

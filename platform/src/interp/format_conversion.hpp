@@ -27,7 +27,8 @@ struct ResolvedConversion {
 /// - %s prints a whole number that fits 64 bits as %d would and any other number as %g;
 /// - %f %e %E %g %G print numbers as C does;
 /// - a text prints as it stands under every conversion, cut to the precision under %s.
-/// Every number goes through the C library's snprintf, one conversion at a time.
+/// Numbers go through the C library's snprintf, one conversion at a time, except
+/// a whole number under a bare %d or %i, whose decimal digits need no C format.
 std::u16string formatElement(const ResolvedConversion& conversion, const Element& element);
 
 }  // namespace orrery::interp::detail

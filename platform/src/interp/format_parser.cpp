@@ -5,6 +5,7 @@
 
 #include <orrery/except/throw_message.hpp>
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -44,15 +45,19 @@ public:
     explicit FormatParser(std::u16string_view format) : format_(format) {}
 
     std::vector<FormatItem> parse() {
+        // Most formats are a few literal runs around one or two conversions.
+        items_.reserve(4);
         while (pos_ < format_.size()) {
             const char16_t unit = format_[pos_];
             if (unit == u'\\') {
                 readEscape();
             } else if (unit == u'%' && peek(1) != u'%') {
                 readConversion();
-            } else {
+            } else if (unit == u'%') {
                 literal_ += unit;
-                pos_ += unit == u'%' ? 2 : 1;
+                pos_ += 2;
+            } else {
+                readPlainRun();
             }
         }
         flushLiteral();
@@ -61,6 +66,13 @@ public:
 
 private:
     char16_t peek(std::size_t ahead) const { return pos_ + ahead < format_.size() ? format_[pos_ + ahead] : u'\0'; }
+
+    // Takes the units up to the next escape or conversion as they stand.
+    void readPlainRun() {
+        const std::size_t end = std::min(format_.find_first_of(u"\\%", pos_), format_.size());
+        literal_.append(format_.substr(pos_, end - pos_));
+        pos_ = end;
+    }
 
     void flushLiteral() {
         if (!literal_.empty()) items_.emplace_back(std::move(literal_));

@@ -79,17 +79,21 @@ std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data)
 
 }  // namespace
 
-value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values) {
+std::u16string sprintfText(std::int32_t count, const value::ValueArray* const* values) {
     if (count < 1 || values == nullptr) except::throwNotEnoughInputs();
     const value::ValueArray* format = values[0];
     if (format == nullptr || !format->isTextScalarTolerant()) except::throwMessage(detail::MissingStringArgument());
-    const auto items = detail::parseFormat(format->text());
+    const auto items = detail::parseFormat(format->textView());
     ArgumentCursor data({values + 1, static_cast<std::size_t>(count - 1)});
     // A format without conversions, or a call without data, prints the literal text once.
-    const std::u16string out =
-        detail::hasConversion(items) && !data.exhausted() ? cycle(items, data) : literalTextOnly(items);
-    if (format->is(value::ClassId::String)) return value::ValueArray::string(out);
-    return value::ValueArray::charArray(value::Dims{1, out.size()}, out);
+    return detail::hasConversion(items) && !data.exhausted() ? cycle(items, data) : literalTextOnly(items);
+}
+
+value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values) {
+    std::u16string out = sprintfText(count, values);
+    if (values[0]->is(value::ClassId::String)) return value::ValueArray::string(std::move(out));
+    const std::size_t length = out.size();
+    return value::ValueArray::charArray(value::Dims{1, length}, std::move(out));
 }
 
 }  // namespace orrery::interp

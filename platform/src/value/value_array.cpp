@@ -287,10 +287,12 @@ bool ValueArray::isTextScalarTolerant() const noexcept {
     return isTextScalar() || (classId_ == ClassId::Char && dims_ == Dims{0, 0});
 }
 
-std::u16string ValueArray::text() const {
+std::u16string ValueArray::text() const { return std::u16string(textView()); }
+
+std::u16string_view ValueArray::textView() const {
     if (!isTextScalarTolerant()) wrongClass(ClassId::Char, classId_);
-    if (classId_ == ClassId::Char) return std::u16string(chars());
-    return *stringAt(0);
+    if (classId_ == ClassId::Char) return std::get<std::u16string>(data_->store);
+    return *std::get<StringStore>(data_->store).values[0];
 }
 
 std::string ValueArray::textUtf8() const { return text::utf16ToUtf8(text()); }

@@ -49,15 +49,12 @@ TEST(ArgumentCounts, AreCheckedBeforeAnythingElse) {
     const auto text = chars("a:b");
     const auto structure = structOf({});
     const std::pair<value::BuiltinFunction, Case> cases[] = {
-        {&bnFullAssertFcn, {"assert without input", {}, "ORRERY:notEnoughInputs"}},
         {&bnFullAssertFcn, {"assert with an output", {ValueArray::logicalScalar(true)}, "ORRERY:tooManyOutputs", 1}},
-        {&bnStructRethrowFcn, {"rethrow without input", {}, "ORRERY:notEnoughInputs"}},
         {&bnStructRethrowFcn, {"rethrow with two", {structure, structure}, "ORRERY:tooManyInputs"}},
         {&bnStructRethrowFcn, {"rethrow with an output", {structure}, "ORRERY:tooManyOutputs", 1}},
         {&bnLastErrMsg, {"lasterr with three outputs", {}, "ORRERY:tooManyOutputs", 3}},
         // Counted before the flag is looked at.
         {&bnLastErrMsg, {"lasterr with three inputs", {chars("-hotlinks"), text, text}, "ORRERY:tooManyInputs"}},
-        {&bnLastErrorFcn, {"lasterror with two outputs", {}, "ORRERY:tooManyOutputs", 2}},
         {&bnLastErrorFcn, {"lasterror with two inputs", {chars("reset"), chars("reset")}, "ORRERY:tooManyInputs"}},
     };
     for (const auto& [builtin, c] : cases) expectOutcome(builtin, c);
@@ -69,8 +66,6 @@ TEST(ErrorBuiltin, EmptyMessagesOfSomeClassesDoNothing) {
     const char* const refused = "ORRERY:error:invalidMessageType";
     const Case cases[] = {
         {"1-by-0 char", {ValueArray::charArray(Dims{1, 0}, u""), one}, nullptr},
-        {"empty double", {ValueArray::doubles(Dims{0, 3}, {}), one}, nullptr},
-        {"empty struct", {ValueArray::structArray(Dims{0, 0}, {"message"}), one}, nullptr},
         {"empty object", {ValueArray::objectArray(info, Dims{1, 0}), one}, nullptr},
         {"empty logical", {ValueArray::zeros(ClassId::Logical, Dims{0, 0})}, refused},
         {"empty string array", {ValueArray::strings(Dims{0, 0}, {})}, refused},
@@ -96,12 +91,9 @@ TEST(AssertBuiltin, ChecksTheConditionThenTheMessage) {
     const char* const emptyMessage = "ORRERY:assertion:emptyMessageNotAllowed";
     const Case cases[] = {
         {"int8 -2 holds", {ValueArray::numericScalar(ClassId::Int8, -2), invalidMessage}, nullptr},
-        {"char holds", {chars("a"), invalidMessage}, nullptr},
         {"NaN", {ValueArray::scalar(std::nan(""))}, notLogical},
-        {"string", {ValueArray::string(u"true")}, notLogical},
         {"struct", {structOf({})}, notLogical},
         {"empty string scalar", {no, ValueArray::string(u"")}, emptyMessage},
-        {"empty cell", {no, ValueArray::cell(Dims{0, 0})}, emptyMessage},
         {"empty double", {no, ValueArray()}, emptyMessage},
     };
     for (const auto& c : cases) expectOutcome(&bnFullAssertFcn, c);

@@ -48,10 +48,8 @@ TEST(ValidateStack, ChecksInOrder) {
         {"not a structure", ValueArray::cell(Dims{1, 1}), "ORRERY:error:badStackStruct"},
         {"three dimensions", ValueArray::structArray(Dims{1, 1, 2}, {"file", "name", "line"}), "ORRERY:error:badStack"},
         {"1-by-0", ValueArray::structArray(Dims{1, 0}, {"file", "name", "line"}), "ORRERY:error:badStack"},
-        {"2-by-2", ValueArray::structArray(Dims{2, 2}, {"file", "name", "line"}), "ORRERY:error:badStack"},
         {"shape before fields", ValueArray::structArray(Dims{1, 2}), "ORRERY:error:badStack"},
         {"no file field", ValueArray::structArray(Dims{0, 1}, {"name", "line"}), "ORRERY:error:badStackFile"},
-        {"no line field", ValueArray::structArray(Dims{0, 1}, {"file", "name"}), "ORRERY:error:badStackFile"},
         {"file not char", stackOf({badFile}), "ORRERY:error:badStackFileString"},
         {"name not char", stackOf({{f, ValueArray::cell(Dims{0, 0}), one}}), "ORRERY:error:badStackName"},
         {"line int32", stackOf({badLine}), "ORRERY:error:badStackLine"},
@@ -85,7 +83,6 @@ TEST(ReadErrorStructure, ChecksInOrder) {
         {"empty", ValueArray::structArray(Dims{0, 0}), "ORRERY:error:nonScalarInput"},
         {"identifier char matrix", withIdentifier(ValueArray::charArray(Dims{2, 2}, u"a:bc")),
          "ORRERY:error:badIdentifier"},
-        {"identifier missing string", withIdentifier(ValueArray::missingString()), "ORRERY:error:badIdentifier"},
         {"identifier not ASCII", withIdentifier(ValueArray::chars(u"a:\u00e9")), "ORRERY:error:badIdentifier"},
         {"identifier before message", structOf({{"message", ValueArray::scalar(1)}, {"identifier", chars("x")}}),
          "ORRERY:error:badIdentifier"},
@@ -101,7 +98,6 @@ TEST(ReadErrorStructure, ChecksInOrder) {
 }
 
 TEST(RethrowBuiltin, RaisesTheStructuresErrorUnderNoName) {
-    EXPECT_MSGID(callBuiltin(&bnStructRethrowFcn, 0, {chars("a:b")}), "ORRERY:rethrow:invalidInputType");
     const auto stack = stackOf({goodFrame()});
     const auto error = orrery::testing::userErrorOf([&] {
         callBuiltin(&bnStructRethrowFcn, 0, {structOf({{"stack", stack}})});

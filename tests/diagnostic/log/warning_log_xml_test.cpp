@@ -7,7 +7,6 @@
 #include "tests/diagnostic/log/printf_argument_print.hpp"
 
 #include <orrery/events/warning_events.hpp>
-#include <orrery/except/internal_error.hpp>
 #include <orrery/interp/call_stack.hpp>
 #include <orrery/interp/dates.hpp>
 #include <orrery/interp/virtual_machine.hpp>
@@ -207,18 +206,6 @@ TEST_F(WarningLogSteps, TheCatalogueSlotLogsAnEmptyFormatAndTheMessageArguments)
     EXPECT_EQ(signalled_[1].getIdentifier(), "test:given");
     EXPECT_EQ(signalled_[1].getArguments(), (std::vector<PrintfArgument>{std::u16string(u"a.xml")}));
     expectLastWarning("test:given", u"The log file 'a.xml' is not open.");
-}
-
-TEST_F(WarningLogSteps, ADisconnectedSlotIsNotCalled) {
-    signal_.disconnect();
-    log_.warn(context(), "test:after", u"", 0, nullptr, u"after", false);
-    EXPECT_TRUE(signalled_.empty());
-    EXPECT_EQ(enabledEvents_.size(), 1U);
-}
-
-TEST_F(WarningLogSteps, OpeningAndClosingLogFilesIsNotAvailableYet) {
-    EXPECT_THROW(log_.openLog(u"a.xml"), except::InternalError);
-    EXPECT_THROW(log_.closeLog(u"a.xml"), except::InternalError);
 }
 
 // ---- publishing -------------------------------------------------------------------------

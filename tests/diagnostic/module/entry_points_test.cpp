@@ -58,14 +58,3 @@ TEST(ModuleEntryPoints, InitialisingWithoutAContextOnlyInstallsTheFunctions) {
         LxTerminate_diagnostic();
     }).join();
 }
-
-TEST(ModuleEntryPoints, TheFactoryMakesWarningLogsThatTheDestroyFunctionDeletes) {
-    LxInitialize_diagnostic();
-    const auto factory = warning::utGetWarningLogFactoryFcn();
-    const auto destroy = warning::utGetWarningLogDestroyFcn();
-    warning::utWarningLog* log = factory();
-    EXPECT_NE(dynamic_cast<WarningLogXML*>(log), nullptr);
-    destroy(log);
-    destroy(nullptr);
-    LxTerminate_diagnostic();
-}

@@ -43,37 +43,13 @@ TEST_F(Lastwarn, EmptyTextClearsAndAnEmptyIdentifierIsAccepted) {
 }
 
 TEST_F(Lastwarn, RefusesBadInputsWithoutStoringThem) {
-    const std::tuple<const char*, std::vector<ValueArray>, const char*, const char*> cases[] = {
-        {"numeric message",
-         {ValueArray::scalar(1)},
-         "ORRERY:string:MustBeSingleString",
-         "The message text must be a character vector or a string scalar that is not missing."},
-        {"missing message", {ValueArray::missingString()}, "ORRERY:string:MustBeSingleString", nullptr},
-        {"numeric identifier",
-         {chars("m"), ValueArray::scalar(1)},
-         "ORRERY:string:MustBeSingleString",
-         "The message identifier must be a character vector or a string scalar that is not missing."},
-        {"invalid identifier", {chars("m"), chars("not an id")}, "ORRERY:lastwarn:badMessageIdentifier", nullptr},
-        {"non-ASCII identifier",
-         {chars("m"), ValueArray::chars(u"a:\u00e9")},
-         "ORRERY:lastwarn:badMessageIdentifier",
-         nullptr},
-    };
-    for (const auto& [name, inputs, failure, text] : cases) {
-        SCOPED_TRACE(name);
-        const orrery::testing::InputList list(inputs);
-        std::vector<value::ValueArrayPtr> outputs(1);
-        try {
-            bnLastWarningMsg(0, outputs.data(), list.count(), list.data());
-            ADD_FAILURE() << "nothing raised";
-        } catch (const except::IMsgIDException& error) {
-            EXPECT_EQ(error.identifier(), failure);
-            if (text) {
-                EXPECT_STREQ(error.what(), text);
-            }
-        }
-        EXPECT_EQ(lastWarning(), (StateRow{"ORRERY:old:id", "old message"}));
-    }
+    const char* const notText = "ORRERY:string:MustBeSingleString";
+    const char* const badIdentifier = "ORRERY:lastwarn:badMessageIdentifier";
+    EXPECT_MSGID(callBuiltin(&bnLastWarningMsg, 0, {ValueArray::missingString()}), notText);
+    EXPECT_MSGID_TEXT(callBuiltin(&bnLastWarningMsg, 0, {chars("m"), ValueArray::scalar(1)}), notText,
+                      "The message identifier must be a character vector or a string scalar that is not missing.");
+    EXPECT_MSGID(callBuiltin(&bnLastWarningMsg, 0, {chars("m"), ValueArray::chars(u"a:\u00e9")}), badIdentifier);
+    EXPECT_EQ(lastWarning(), (StateRow{"ORRERY:old:id", "old message"}));
 }
 
 TEST_F(Lastwarn, ChecksItsArgumentCounts) {

@@ -61,13 +61,6 @@ TEST(Text, LossyConversionsReplaceWhatTheStrictOnesRefuse) {
     EXPECT_MSGID(utf8ToUtf16("a\xFFz"), "ORRERY:text:invalidUtf8");
 }
 
-TEST(Text, TellsAsciiFromWiderText) {
-    EXPECT_TRUE(isAscii(std::string_view("plain \x7F")));
-    EXPECT_TRUE(isAscii(std::u16string_view(u"")));
-    EXPECT_FALSE(isAscii(std::string_view("caf\xC3\xA9")));
-    EXPECT_FALSE(isAscii(std::u16string_view(u"x\u0080")));
-}
-
 TEST(Text, DecodesTheFirstUtf8CharacterOrNothing) {
     const std::tuple<std::string, char32_t, std::size_t> good[] = {
         {"Az", U'A', 1},

@@ -45,9 +45,6 @@ TEST(ValueArray, RejectsOutOfRangeIndexAndWrongClass) {
     EXPECT_MSGID(v.realAt(4), "ORRERY:value:indexOutOfRange");
     EXPECT_MSGID(v.setRealAt(99, 1), "ORRERY:value:indexOutOfRange");
     EXPECT_MSGID(v.cellAt(0), "ORRERY:value:wrongClass");
-    EXPECT_MSGID(v.chars(), "ORRERY:value:wrongClass");
-    EXPECT_MSGID(v.fieldNames(), "ORRERY:value:wrongClass");
-    EXPECT_MSGID(v.logicalAt(0), "ORRERY:value:wrongClass");
     EXPECT_MSGID(v.objectAt(0), "ORRERY:value:wrongClass");
     EXPECT_MSGID(ValueArray::doubles(Dims{2, 2}, {1}), "ORRERY:value:badDimensions");
     EXPECT_MSGID(v.reshape(Dims{3, 1}), "ORRERY:value:badDimensions");

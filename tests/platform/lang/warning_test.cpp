@@ -153,15 +153,6 @@ TEST(Warning, SettersTakeTextsInEitherFormAndStacksInEitherOrientation) {
     EXPECT_EQ(w.getStack(), (std::vector<StackFrame>{{u"f", u"n", 3}}));
 }
 
-TEST(Warning, CopiesAreIndependent) {
-    const Warning source = record(1, "a:b", {std::int32_t{1}}, {{u"f", u"f", 1}});
-    Warning copy = source;
-    copy.setStack({{u"g", u"g", 2}});
-    copy.setArguments(std::vector<PrintfArgument>{});
-    EXPECT_EQ(source.getStack(), (std::vector<StackFrame>{{u"f", u"f", 1}}));
-    EXPECT_EQ(source.getArguments().size(), 1u);
-}
-
 TEST(Warning, TimestampTakesTheCurrentLocalTime) {
     Warning w;
     const double before = orrery::interp::nowSerial();

@@ -2,8 +2,6 @@
 // warning, the log slot and the callback.
 #include "warning_fixture.hpp"
 
-#include <orrery/except/internal_error.hpp>
-
 using namespace orrery::warning;
 using orrery::warning::testing::MockLog;
 using WarningManager = orrery::warning::testing::WarningTest;
@@ -56,21 +54,6 @@ TEST_F(WarningManager, KeepsTheLastWarningAndCallsTheRegisteredCallbackUntilRemo
     utRegisterWarningCallback(context, {});
     utCallRegisteredWarningCallback(context);
     EXPECT_EQ(calls, 1);
-}
-
-TEST_F(WarningManager, RefusesStatesAndModesOutsideTheirEnumerations) {
-    using orrery::except::InternalError;
-    for (const int value : {-1, 3}) {
-        SCOPED_TRACE(value);
-        EXPECT_THROW(utSetWarningStatus(context, "a:b", static_cast<WarningState>(value)), InternalError);
-        EXPECT_THROW(utSetWarningMode(context, static_cast<WarningMode>(value), true), InternalError);
-        EXPECT_THROW(utIsWarningModeOn(context, static_cast<WarningMode>(value)), InternalError);
-    }
-    EXPECT_EQ(utCountWarningsInWarningManager(context), 0u) << "a refused state is not stored";
-    utSetWarningStatus(context, "a:b", WarningState::Error);
-    utSetWarningMode(context, WarningMode::Verbose, true);
-    EXPECT_EQ(utGetWarningStatus(context, "a:b"), WarningState::Error);
-    EXPECT_TRUE(utIsWarningModeOn(context, WarningMode::Verbose));
 }
 
 namespace {

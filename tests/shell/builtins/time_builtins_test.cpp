@@ -20,7 +20,7 @@ TEST(DateBuiltins, DatenumAndDatevecAreInverse) {
     EXPECT_EQ(days.realAt(1) - days.realAt(0), 31);
     EXPECT_EQ(numbers(call("datevec", 3, {days})[1]), (std::vector<double>{1, 2}));
     EXPECT_EQ(call1("datevec", {days}).dims(), (Dims{2, 6}));
-    const ValueArray rows = call1("datenum", {matrix(2, 3, {2024, 2024, 1, 2, 1, 1})});
+    const ValueArray rows = call1("datenum", {ValueArray::doubles(Dims{2, 3}, {2024, 2024, 1, 2, 1, 1})});
     EXPECT_EQ(numbers(rows), numbers(days));
     EXPECT_EQ(rows.dims(), (Dims{2, 1}));
 

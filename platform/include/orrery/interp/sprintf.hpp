@@ -5,6 +5,7 @@
 #include <orrery/value/value_array.hpp>
 
 #include <cstdint>
+#include <string>
 
 namespace orrery::interp {
 
@@ -40,5 +41,9 @@ namespace orrery::interp {
 /// most 100000 in magnitude "ORRERY:sprintf:badFieldSize"; a cell, struct or object
 /// argument "ORRERY:sprintf:unsupportedArgument"; a null argument "ORRERY:invalidInput".
 ORRERY_API value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values);
+
+/// The text fiSprintf(count, values) holds, whatever the class of its format, with
+/// the same failures; for callers that want the text rather than an array.
+ORRERY_API std::u16string sprintfText(std::int32_t count, const value::ValueArray* const* values);
 
 }  // namespace orrery::interp

@@ -15,10 +15,13 @@ enum class IdentifierKind {
 };
 
 /// True for an ASCII letter, the first character of every identifier.
-ORRERY_API bool isIdentifierStart(char c);
+constexpr bool isIdentifierStart(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 /// True for a character that may follow the first one in an identifier of the kind.
-ORRERY_API bool isIdentifierPart(char c, IdentifierKind kind);
+constexpr bool isIdentifierPart(char c, IdentifierKind kind) {
+    if (isIdentifierStart(c) || (c >= '0' && c <= '9') || c == '_') return true;
+    return kind == IdentifierKind::MessageComponent && c == '-';
+}
 
 /// True when the whole text is one identifier of the kind; the empty text is not.
 ORRERY_API bool isIdentifier(std::string_view text, IdentifierKind kind);

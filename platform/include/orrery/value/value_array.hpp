@@ -101,6 +101,8 @@ public:
     bool isTextScalarTolerant() const noexcept;
     /// The text of a (tolerant) text scalar; raises "ORRERY:value:wrongClass" otherwise.
     std::u16string text() const;
+    /// The same text without a copy, valid while this array and its data live unchanged.
+    std::u16string_view textView() const;
     std::string textUtf8() const;
 
     // ---- cells ----------------------------------------------------------------

@@ -1,0 +1,110 @@
+// Cost of appending a warning to an open log file, against the floor of write()
+// of the same rendered bytes and, when it is installed, against spdlog's basic
+// file sink flushing every message.
+#include "bench/ratio_reporter.hpp"
+
+#include "diagnostic/log/log_output_stream.hpp"
+#include "diagnostic/log/warning_element.hpp"
+
+#include <orrery/interp/dates.hpp>
+#include <orrery/interp/virtual_machine.hpp>
+#include <orrery/text/text.hpp>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#ifdef ORRERY_BENCH_SPDLOG
+#include <spdlog/logger.h>
+#include <spdlog/sinks/basic_file_sink.h>
+#endif
+
+namespace {
+
+using orrery::lang::diagnostic::Warning;
+
+// A warning as a script issues it: three integer arguments, two frames.
+Warning typicalWarning() {
+    Warning warning;
+    warning.setIdentifier("ORRERY:bench:outOfRange");
+    warning.setMessage(u"value 42 is out of range [0, 10]");
+    warning.setFormat(u"value %d is out of range [%d, %d]");
+    warning.setArguments({std::int32_t{42}, std::int32_t{0}, std::int32_t{10}});
+    warning.setStack(std::vector<orrery::lang::StackFrame>{{u"/home/user/project/check_range.orr", u"check_range", 17},
+                                                           {u"/home/user/project/main.orr", u"main", 4}});
+    warning.setTime(orrery::interp::nowSerial());
+    return warning;
+}
+
+std::string renderedWarning() {
+    return orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(typicalWarning()));
+}
+
+/// A file in the temporary folder, removed when the benchmark ends.
+class ScratchFile {
+public:
+    explicit ScratchFile(const char* name)
+        : path_(std::filesystem::temp_directory_path() / (std::to_string(::getpid()) + "_" + name)) {
+        std::filesystem::remove(path_);
+    }
+    ~ScratchFile() {
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
+    ScratchFile(const ScratchFile&) = delete;
+    ScratchFile& operator=(const ScratchFile&) = delete;
+    std::string path() const { return path_.string(); }
+
+private:
+    std::filesystem::path path_;
+};
+
+// Rendering the record and writing it before the footer, footer rewritten and flushed.
+void appendWarningToLog(benchmark::State& state) {
+    const ScratchFile file("bench_log.xml");
+    const auto log = orrery::lang::diagnostic::openLogForWriting(orrery::text::utf8ToUtf16(file.path()));
+    const Warning warning = typicalWarning();
+    for (auto _ : state)
+        log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(warning)));
+    state.SetItemsProcessed(state.iterations());
+}
+
+// The floor: one write() of the same rendered bytes per warning.
+void appendWarningToLogFloor(benchmark::State& state) {
+    const ScratchFile file("bench_floor.xml");
+    const int fd = ::open(file.path().c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    const std::string bytes = renderedWarning();
+    for (auto _ : state)
+        if (::write(fd, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) state.SkipWithError("write");
+    ::close(fd);
+    state.SetItemsProcessed(state.iterations());
+}
+
+#ifdef ORRERY_BENCH_SPDLOG
+// The peer: a file logger that flushes every message, given the same warning's
+// identifier, message and format (its own pattern adds time, name and level).
+void appendWarningToLogPeer(benchmark::State& state) {
+    const ScratchFile file("bench_peer.log");
+    spdlog::logger logger("bench", std::make_shared<spdlog::sinks::basic_file_sink_st>(file.path(), true));
+    logger.flush_on(spdlog::level::trace);
+    const Warning warning = typicalWarning();
+    const std::string message = orrery::text::utf16ToUtf8(warning.getMessage());
+    const std::string format = orrery::text::utf16ToUtf8(warning.getFormat());
+    for (auto _ : state) logger.warn("{} {} ({})", warning.getIdentifier(), message, format);
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(appendWarningToLogPeer)->Repetitions(5);
+#endif
+
+}  // namespace
+
+BENCHMARK(appendWarningToLog)->Repetitions(5);
+BENCHMARK(appendWarningToLogFloor)->Repetitions(5);
+
+int main(int argc, char** argv) {
+    const orrery::interp::VirtualMachineScope machine;
+    return orrery::bench::runWithRatios(argc, argv);
+}

@@ -1,0 +1,31 @@
+// Reopening an existing warning log to write more warnings before its footer.
+#include "diagnostic/log/log_append.hpp"
+
+#include "diagnostic/log/log_file_ids.hpp"
+#include "diagnostic/log/log_stream_failure.hpp"
+#include "diagnostic/log/warning_log_reader.hpp"
+
+#include <orrery/except/throw_message.hpp>
+#include <orrery/text/text.hpp>
+
+#include <fstream>
+#include <utility>
+
+namespace orrery::lang::diagnostic {
+
+namespace ids = orrery::diagnostic::ids;
+
+std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path) {
+    auto file = std::make_unique<std::ofstream>();
+    file->exceptions(std::ios_base::failbit | std::ios_base::badbit);
+    raisingStreamFailureAs<ids::LogFileOpenFileAppend>(
+        path, [&] { file->open(text::utf16ToUtf8(path), std::ios_base::in | std::ios_base::out); });
+    const std::uint64_t footerStart = findLogEnd(path);
+    // The reader accepts a lone "warning" element as a document; without a closing
+    // "log" tag there is nowhere to write, and writing at its start would destroy it.
+    if (footerStart == 0) except::throwMessage(ids::LogFileFileSeek(path, u"no closing </log> tag"));
+    raisingStreamFailureAs<ids::LogFileFileSeek>(path, [&] { file->seekp(static_cast<std::streamoff>(footerStart)); });
+    return std::make_shared<LogOutputStream>(path, std::move(file), footerStart);
+}
+
+}  // namespace orrery::lang::diagnostic

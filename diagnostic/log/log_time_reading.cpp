@@ -1,0 +1,79 @@
+// The time text of a warning log element, read back.
+#include "diagnostic/log/log_time_reading.hpp"
+
+#include "diagnostic/log/xml_parser_ids.hpp"
+
+#include <orrery/except/throw_message.hpp>
+
+#include <climits>
+
+namespace orrery::lang::diagnostic {
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r'; }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+void skipBlanks(const char*& p) {
+    while (isBlank(*p)) ++p;
+}
+
+bool literal(const char*& p, char c) {
+    if (*p != c) return false;
+    ++p;
+    return true;
+}
+
+// "%*[.,]": one or more points or commas.
+bool separators(const char*& p) {
+    if (*p != '.' && *p != ',') return false;
+    while (*p == '.' || *p == ',') ++p;
+    return true;
+}
+
+// "%d": blanks, an optional sign, one or more digits. As the C library does, the
+// number saturates at the limits of long and is then stored modulo 2^32.
+bool number(const char*& p, int& out) {
+    skipBlanks(p);
+    const bool negative = *p == '-';
+    if (*p == '+' || *p == '-') ++p;
+    if (!isDigit(*p)) return false;
+    constexpr unsigned long long kLimit = 1ULL << 63;
+    unsigned long long magnitude = 0;
+    for (; isDigit(*p); ++p) {
+        const auto digit = static_cast<unsigned long long>(*p - '0');
+        magnitude = magnitude > (kLimit - digit) / 10 ? kLimit : magnitude * 10 + digit;
+    }
+    long value = 0;
+    if (negative)
+        value = magnitude >= kLimit ? LONG_MIN : -static_cast<long>(magnitude);
+    else
+        value = magnitude >= kLimit ? LONG_MAX : static_cast<long>(magnitude);
+    out = static_cast<int>(value);
+    return true;
+}
+
+}  // namespace
+
+bool scanLogTime(const char* p, LogTimeFields& f) {
+    if (!number(p, f[0]) || !literal(p, '-') || !number(p, f[1]) || !literal(p, '-') || !number(p, f[2])) return false;
+    skipBlanks(p);
+    if (!number(p, f[3]) || !literal(p, ':') || !number(p, f[4]) || !literal(p, ':') || !number(p, f[5])) return false;
+    if (!separators(p) || !number(p, f[6])) return false;
+    skipBlanks(p);
+    return number(p, f[7]);
+}
+
+double readLogTime(const char* text, interp::UtcOffset localOffset) {
+    LogTimeFields f{};
+    if (!scanLogTime(text, f)) except::throwMessage(orrery::diagnostic::ids::XmlInvalidTimeFormat());
+    const auto [year, month, day, hour, minute, second, milliseconds, zone] = f;
+    // The zone is read as one number, so "-03-30" gives -3: zero hours, minus three minutes.
+    const int zoneHours = zone / 100;
+    const int zoneMinutes = zone - 100 * zoneHours;
+    // Hours and minutes may leave their ranges here; the day number conversion absorbs them.
+    return interp::datenumFromDatevec(year, month, day, static_cast<double>(hour) + localOffset.hours - zoneHours,
+                                      static_cast<double>(minute) + localOffset.minutes - zoneMinutes,
+                                      second + milliseconds / 1000.0);
+}
+
+}  // namespace orrery::lang::diagnostic

@@ -1,0 +1,19 @@
+// The time of a warning as a warning log writes it.
+#pragma once
+
+#include <orrery/interp/dates.hpp>
+
+#include <string>
+
+namespace orrery::lang::diagnostic {
+
+/// "YYYY-MM-DD hh:mm:ss.sss +hhmm": the serial day number split by calcDatevec,
+/// followed by the given offset from UTC. Hours and minutes of the offset are
+/// printed each with its own sign, so minus three and a half hours reads "-03-30".
+std::u16string logTimeText(double serial, interp::UtcOffset offset);
+
+/// The same with the local standard-time offset from UTC at the moment of writing
+/// (interp::localUtcOffsetAt the current second), not at the warning's time.
+std::u16string logTimeText(double serial);
+
+}  // namespace orrery::lang::diagnostic
