@@ -3,6 +3,7 @@
 
 #include "diagnostic/classes/warning_info.hpp"
 #include "diagnostic/log/issue_warning.hpp"
+#include "diagnostic/log/warning_log_reader.hpp"
 #include "diagnostic/record/convert_warnings.hpp"
 
 #include <orrery/except/internal_error.hpp>
@@ -44,9 +45,11 @@ LoadLogMI::LoadLogMI() : WarningBaseMI("load") {
     addOutput(ocos::intern(kWarningClassPath));
 }
 
-void LoadLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* /*plhs*/, std::int32_t /*nrhs*/,
-                       const value::ValueArray* const* /*prhs*/) const {
-    except::internalError("warning log", "the log reader is not available yet");
+void LoadLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* plhs, std::int32_t /*nrhs*/,
+                       const value::ValueArray* const* prhs) const {
+    const std::u16string fileName = prhs[0]->text();
+    // The reader raises before anything is made, so a failure leaves no array.
+    plhs[0] = convertWarningsToValueArray(readWarningLog(fileName));
 }
 
 }  // namespace orrery::lang::diagnostic
