@@ -1,16 +1,24 @@
-// Cost of the Warning class over plain records: sorting a 100,000-warning array
-// through its sort method, against a stable sort of a copy of the records.
+// Cost of the Warning class over plain records, for 100,000 warnings: loading a
+// log into a Warning array against reading its records alone, and sorting the
+// array through its sort method against a stable sort of a copy of the records.
 #include "bench/ratio_reporter.hpp"
 
 #include "diagnostic/classes/class_registration.hpp"
+#include "diagnostic/log/log_output_stream.hpp"
+#include "diagnostic/log/warning_element.hpp"
+#include "diagnostic/log/warning_log_reader.hpp"
 #include "diagnostic/record/convert_warnings.hpp"
 
 #include <orrery/interp/virtual_machine.hpp>
 #include <orrery/lang/warning.hpp>
 #include <orrery/ocos/dispatch.hpp>
+#include <orrery/text/text.hpp>
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -46,6 +54,41 @@ const std::vector<Warning>& sessionRecords() {
     return records;
 }
 
+// The records written by the module's writer to a log file, once.
+const std::u16string& logPath() {
+    static const std::u16string path = [] {
+        const auto file =
+            std::filesystem::temp_directory_path() / ("orrery_bench_class_" + std::to_string(::getpid()) + ".xml");
+        std::filesystem::remove(file);
+        const std::u16string name = orrery::text::utf8ToUtf16(file.string());
+        const auto log = orrery::lang::diagnostic::openLogForWriting(name);
+        for (const Warning& w : sessionRecords())
+            log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(w)));
+        return name;
+    }();
+    return path;
+}
+
+// w = orrery.internal.diagnostic.log.load(file): read, then made Warning objects.
+void loadWarningArray(benchmark::State& state) {
+    orrery::lang::diagnostic::registerWarningClassForModule();
+    const ValueArray name = ValueArray::chars(logPath());
+    const ValueArray* inputs[] = {&name};
+    for (auto _ : state) {
+        ValueArrayPtr outputs[1];
+        orrery::ocos::callNamespaceFunction("orrery.internal.diagnostic.log.load", 1, outputs, 1, inputs);
+        benchmark::DoNotOptimize(outputs[0].get());
+    }
+}
+
+// The floor: the reader alone.
+void loadWarningArrayFloor(benchmark::State& state) {
+    for (auto _ : state) {
+        auto records = orrery::lang::diagnostic::readWarningLog(logPath());
+        benchmark::DoNotOptimize(records.data());
+    }
+}
+
 // [B, I] = sort(A) on a 1-by-100,000 Warning array.
 void sortWarningArray(benchmark::State& state) {
     orrery::lang::diagnostic::registerWarningClassForModule();
@@ -70,10 +113,14 @@ void sortWarningArrayFloor(benchmark::State& state) {
 
 }  // namespace
 
+BENCHMARK(loadWarningArray)->Unit(benchmark::kMillisecond)->Repetitions(3);
+BENCHMARK(loadWarningArrayFloor)->Unit(benchmark::kMillisecond)->Repetitions(3);
 BENCHMARK(sortWarningArray)->Unit(benchmark::kMillisecond)->Repetitions(3);
 BENCHMARK(sortWarningArrayFloor)->Unit(benchmark::kMillisecond)->Repetitions(3);
 
 int main(int argc, char** argv) {
     const orrery::interp::VirtualMachineScope machine;
-    return orrery::bench::runWithRatios(argc, argv);
+    const int status = orrery::bench::runWithRatios(argc, argv);
+    std::filesystem::remove(std::filesystem::path(orrery::text::utf16ToUtf8(logPath())));
+    return status;
 }
