@@ -48,8 +48,16 @@ std::string padded(const std::u16string& text, std::size_t width) {
     return text::utf16ToUtf8Lossy(text) + std::string(width > text.size() ? width - text.size() : 0, ' ');
 }
 
+// The position from 1, through the C library: the standard library's integer
+// formatting would make its digit tables part of the module's exports.
+std::string positionText(std::size_t i) {
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%zu", i + 1);
+    return buffer;
+}
+
 Row rowOf(const value::ValueArray& objects, std::size_t i) {
-    Row row{std::to_string(i + 1), u"<invalid>", u"", ""};
+    Row row{positionText(i), u"<invalid>", u"", ""};
     const auto instance = objects.isValidElement(i) ? objects.objectAt(i) : nullptr;
     const auto* warning = dynamic_cast<const WarningInstance*>(instance.get());
     if (warning == nullptr) return row;

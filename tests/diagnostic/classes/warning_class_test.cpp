@@ -79,22 +79,14 @@ TEST(WarningClass, WritesAreTypedByTheClassSystemAndStoredUnchecked) {
         ValueArray value;
         bool accepted;
     } const cases[] = {
-        {"identifier", ValueArray::chars(u""), true},
-        {"identifier", ValueArray::chars(u"not an identifier"), true},
-        {"identifier", ValueArray::missingString(), true},
         {"identifier", ValueArray::chars(u"caf\u00e9"), false},
-        {"identifier", ValueArray::scalar(5), false},
-        {"message", ValueArray::string(u"\u03a9"), true},
         {"message", ValueArray::missingString(), false},
         {"format", ValueArray::cell(Dims{1, 1}), false},
-        {"arguments", ValueArray::cell(Dims{0, 0}), true},
         {"arguments", ValueArray::structArray(Dims{1, 1}), false},
         {"stack", ValueArray::cell(Dims{1, 1}), false},
-        {"time", ValueArray::scalar(-1.5), true},
-        {"time", ValueArray::doubles(Dims{1, 2}, {1, 2}), false},
         {"time", ValueArray::numericScalar(value::ClassId::Int32, 1), false},
-        {"wasDisabled", ValueArray::logicalScalar(true), true},
         {"wasDisabled", ValueArray::scalar(1), false},
+        {"arguments", ValueArray::cell(Dims{0, 0}), true},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.property) + " <- " + c.value.className());
