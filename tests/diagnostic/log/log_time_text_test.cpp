@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <ctime>
+#include <string>
 
 using orrery::interp::datenumFromDatevec;
 using orrery::lang::diagnostic::logTimeText;
@@ -46,4 +48,30 @@ TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart)
     }
     const orrery::test::ZoneScope summer("CET-1CEST-2,J1/0,J365/25");
     EXPECT_TRUE(daylightSavingNow());
+}
+
+// The time text is printed field by field; it must equal what the C format
+// "%04d-%02d-%02d %02d:%02d:%06.3f %+03d%02d" gives for the same parts.
+TEST(LogTimeText, EqualsTheCFormatOverAwkwardTimesAndOffsets) {
+    const double serials[] = {datenumFromDatevec(2024, 3, 5, 14, 7, 9.25),
+                              datenumFromDatevec(2023, 12, 31, 23, 59, 59.9996),
+                              datenumFromDatevec(5, 1, 1, 0, 0, 0.0005),
+                              datenumFromDatevec(12345, 6, 7, 8, 9, 10.5),
+                              1.0,
+                              0.0,
+                              -400.75};
+    const orrery::interp::UtcOffset offsets[] = {{0, 0}, {-3, -30}, {5, 30}, {-12, 0}, {14, 45}, {0, -30}};
+    for (const double serial : serials) {
+        const auto date = orrery::interp::calcDatevec(serial, 0);
+        for (const auto& offset : offsets) {
+            char expected[32];
+            std::snprintf(expected, sizeof expected, "%04d-%02d-%02d %02d:%02d:%06.3f %+03d%02d",
+                          static_cast<int>(date.year), static_cast<int>(date.month), static_cast<int>(date.day),
+                          static_cast<int>(date.hour), static_cast<int>(date.minute), date.seconds, offset.hours,
+                          offset.minutes);
+            const std::string expectedText(expected);
+            EXPECT_EQ(logTimeText(serial, offset), std::u16string(expectedText.begin(), expectedText.end()))
+                << expected;
+        }
+    }
 }
