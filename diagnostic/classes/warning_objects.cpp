@@ -9,6 +9,8 @@
 #include <orrery/ocos/registry.hpp>
 #include <orrery/text/text.hpp>
 
+#include <utility>
+
 namespace orrery::lang::diagnostic {
 
 std::shared_ptr<const ocos::COSClassInfo> warningClass() { return ocos::getClass(kWarningClassPath); }
@@ -27,8 +29,8 @@ value::ValueArray newWarningArray(value::Dims dims) {
     return value::ValueArray::objectArray(warningClass(), std::move(dims));
 }
 
-void setWarningAt(value::ValueArray& objects, std::size_t index, const Warning& record) {
-    objects.setObjectAt(index, std::make_shared<WarningInstance>(record));
+void setWarningAt(value::ValueArray& objects, std::size_t index, Warning record) {
+    objects.setObjectAt(index, std::make_shared<WarningInstance>(std::move(record)));
 }
 
 }  // namespace orrery::lang::diagnostic

@@ -23,7 +23,8 @@ const Warning& warningRecordAt(const value::ValueArray& objects, std::size_t ind
 /// A Warning object array of the size; every element starts invalid.
 value::ValueArray newWarningArray(value::Dims dims);
 
-/// Stores a new instance holding a copy of the record as element index.
-void setWarningAt(value::ValueArray& objects, std::size_t index, const Warning& record);
+/// Stores a new instance holding the record (a copy, or the caller's moved in)
+/// as element index.
+void setWarningAt(value::ValueArray& objects, std::size_t index, Warning record);
 
 }  // namespace orrery::lang::diagnostic
