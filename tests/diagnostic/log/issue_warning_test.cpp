@@ -17,7 +17,6 @@
 
 using namespace orrery;
 using lang::diagnostic::getOrCreateWarningLog;
-using lang::diagnostic::issueAndLogWarning;
 using lang::diagnostic::Warning;
 using lang::diagnostic::WarningLogXML;
 
@@ -26,57 +25,33 @@ namespace {
 void issue(warning::WarningManagerContext* context, const std::string& identifier, const std::u16string& message) {
     const value::ValueArray argument = value::ValueArray::scalar(1);
     const value::ValueArray* values[] = {&argument};
-    issueAndLogWarning(context, identifier, message, 1, values, message);
+    lang::diagnostic::issueAndLogWarning(context, identifier, message, 1, values, message);
 }
 
-// Installs a factory and destroy function pair that count their calls; the
-// previous pair comes back at the end.
-class CountingLogFunctions {
-public:
-    explicit CountingLogFunctions(bool factoryFails = false)
-        : previousFactory_(warning::utGetWarningLogFactoryFcn()),
-          previousDestroy_(warning::utGetWarningLogDestroyFcn()) {
-        made = 0;
-        destroyed = 0;
-        warning::utSetWarningLogFactoryFcn(factoryFails ? &failingFactory : &factory);
-        warning::utSetWarningLogDestroyFcn(&destroy);
+// Installs a factory, failing or not, and a destroy function that count their
+// calls; the previous pair comes back at the end.
+struct CountingLogFunctions {
+    explicit CountingLogFunctions(bool factoryFails) {
+        made = destroyed = 0;
+        fails = factoryFails;
+        warning::utSetWarningLogFactoryFcn([]() -> warning::utWarningLog* {
+            ++made;
+            return fails ? nullptr : new WarningLogXML();
+        });
+        warning::utSetWarningLogDestroyFcn([](warning::utWarningLog* log) {
+            ++destroyed;
+            delete log;
+        });
     }
     ~CountingLogFunctions() {
-        warning::utSetWarningLogFactoryFcn(previousFactory_);
-        warning::utSetWarningLogDestroyFcn(previousDestroy_);
+        warning::utSetWarningLogFactoryFcn(previousFactory);
+        warning::utSetWarningLogDestroyFcn(previousDestroy);
     }
-    CountingLogFunctions(const CountingLogFunctions&) = delete;
-    CountingLogFunctions& operator=(const CountingLogFunctions&) = delete;
-
     static inline int made = 0;
     static inline int destroyed = 0;
-
-private:
-    static warning::utWarningLog* factory() {
-        ++made;
-        return new WarningLogXML();
-    }
-    static warning::utWarningLog* failingFactory() { return nullptr; }
-    static void destroy(warning::utWarningLog* log) {
-        ++destroyed;
-        delete log;
-    }
-    warning::utWarningLogFactoryFcn previousFactory_;
-    warning::utWarningLogDestroyFcn previousDestroy_;
-};
-
-// Removes a feature switch at the end of the scope.
-class FeatureSwitch {
-public:
-    FeatureSwitch(std::string name, std::optional<bool> enabled) : name_(std::move(name)) {
-        if (enabled) services::svSetFeature(name_, *enabled);
-    }
-    ~FeatureSwitch() { services::svUnregisterFeature(name_); }
-    FeatureSwitch(const FeatureSwitch&) = delete;
-    FeatureSwitch& operator=(const FeatureSwitch&) = delete;
-
-private:
-    std::string name_;
+    static inline bool fails = false;
+    warning::utWarningLogFactoryFcn previousFactory = warning::utGetWarningLogFactoryFcn();
+    warning::utWarningLogDestroyFcn previousDestroy = warning::utGetWarningLogDestroyFcn();
 };
 
 // A fresh interpreter instance whose issued warnings are collected.
@@ -110,27 +85,25 @@ TEST_F(IssueAndLog, MakesAndInstallsALogWhenTheContextHasNone) {
     EXPECT_EQ(signalled_.size(), 2U);
 }
 
-TEST(GetOrCreateWarningLog, MakesTheLogThroughTheInstalledFactoryAndTheContextDestroysIt) {
-    const CountingLogFunctions functions;
-    {
-        interp::VirtualMachineScope machine;
-        auto* context = machine.machine().warningManagerContext();
-        auto* log = getOrCreateWarningLog(context);
-        EXPECT_EQ(CountingLogFunctions::made, 1);
-        EXPECT_EQ(getOrCreateWarningLog(context), log);
-        EXPECT_EQ(CountingLogFunctions::made, 1);
-        EXPECT_EQ(CountingLogFunctions::destroyed, 0);
-    }
-    EXPECT_EQ(CountingLogFunctions::destroyed, 1);
-}
-
-TEST_F(IssueAndLog, AFactoryThatFailsLeavesTheContextWithoutALogAndTheWarningIsStillShown) {
+TEST_F(IssueAndLog, AFactoryThatFailsLeavesNoLogAndTheWarningIsStillShown) {
     const CountingLogFunctions functions(true);
     const console::ConsoleCapture console;
     issue(context(), "test:nolog", u"shown");
     EXPECT_EQ(warning::utGetWarningLog(context()), nullptr);
     EXPECT_EQ(console.error(), "Warning: shown\n");
     EXPECT_TRUE(signalled_.empty());
+}
+
+TEST(GetOrCreateWarningLog, MakesTheLogOnceThroughTheInstalledFactoryAndTheContextDestroysIt) {
+    const CountingLogFunctions functions(false);
+    {
+        interp::VirtualMachineScope machine;
+        auto* context = machine.machine().warningManagerContext();
+        EXPECT_EQ(getOrCreateWarningLog(context), getOrCreateWarningLog(context));
+        EXPECT_EQ(CountingLogFunctions::made, 1);
+        EXPECT_EQ(CountingLogFunctions::destroyed, 0);
+    }
+    EXPECT_EQ(CountingLogFunctions::destroyed, 1);
 }
 
 TEST_F(IssueAndLog, AWarningInTheErrorStateRaisesAndIsNotLogged) {
@@ -144,31 +117,29 @@ TEST_F(IssueAndLog, AWarningInTheErrorStateRaisesAndIsNotLogged) {
     EXPECT_EQ(identifier, "test:before");
 }
 
-TEST_F(IssueAndLog, AWarningThatIsOffIsLoggedAsDisabledAndNotShown) {
-    warning::utSetWarningStatus(context(), "test:quiet", warning::WarningState::Off);
-    const console::ConsoleCapture console;
-    issue(context(), "test:quiet", u"quiet");
-    EXPECT_EQ(console.error(), "");
-    ASSERT_EQ(signalled_.size(), 1U);
-    EXPECT_TRUE(signalled_[0].getWasDisabled());
-}
-
-TEST_F(IssueAndLog, SuppressCommandLineOutputStopsPrintingButNotLogging) {
+// A warning that is off is logged as disabled and not shown; the switch
+// "SuppressCommandLineOutput", registered and on, stops printing but not logging.
+TEST_F(IssueAndLog, OffWarningsAndSuppressCommandLineOutputStopPrintingButNotLogging) {
     struct Case {
         const char* what;
-        std::optional<bool> enabled;
+        warning::WarningState state;
+        std::optional<bool> suppress;
         bool printed;
     };
     getOrCreateWarningLog(context());  // its output filter is in place from now on
-    for (const Case& c : {Case{"not registered", std::nullopt, true}, Case{"registered, off", false, true},
-                          Case{"registered, on", true, false}}) {
+    for (const Case& c : {Case{"switch not registered", warning::WarningState::On, std::nullopt, true},
+                          Case{"switch off", warning::WarningState::On, false, true},
+                          Case{"switch on", warning::WarningState::On, true, false},
+                          Case{"warning off", warning::WarningState::Off, std::nullopt, false}}) {
         SCOPED_TRACE(c.what);
         signalled_.clear();
-        const FeatureSwitch suppress("SuppressCommandLineOutput", c.enabled);
+        warning::utSetWarningStatus(context(), "test:suppress", c.state);
+        if (c.suppress) services::svSetFeature("SuppressCommandLineOutput", *c.suppress);
         const console::ConsoleCapture console;
         issue(context(), "test:suppress", u"suppressed?");
+        services::svUnregisterFeature("SuppressCommandLineOutput");
         EXPECT_EQ(console.error(), c.printed ? "Warning: suppressed?\n" : "");
         ASSERT_EQ(signalled_.size(), 1U);
-        EXPECT_FALSE(signalled_[0].getWasDisabled());
+        EXPECT_EQ(signalled_[0].getWasDisabled(), c.state == warning::WarningState::Off);
     }
 }

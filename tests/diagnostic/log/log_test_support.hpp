@@ -1,7 +1,9 @@
 // Support of the warning log tests: a temporary working folder, a file's bytes,
-// the independent well-formedness check of a written log, and a time zone scope.
+// the independent well-formedness check of a written log, a time zone scope and
+// readable typed format arguments ("int32 7", "string abc") in failures.
 #pragma once
 
+#include <orrery/lang/printf_argument.hpp>
 #include <orrery/text/text.hpp>
 
 #include <gtest/gtest.h>
@@ -13,9 +15,14 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <ostream>
 #include <string>
 
 namespace orrery::test {
+
+/// The bytes before and after the warnings of every written log.
+inline const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<log>\n";
+inline const std::string kFooter = "</log>\n";
 
 /// A fresh folder made the current folder while it lives; afterwards the previous
 /// current folder is restored and the folder removed with all it holds.
@@ -82,3 +89,14 @@ private:
 };
 
 }  // namespace orrery::test
+
+namespace orrery::lang {
+
+/// Found by GoogleTest through argument-dependent lookup.
+inline void PrintTo(const PrintfArgument& argument, std::ostream* os) {
+    std::u16string value;
+    const std::u16string type = argument.getTypeAndValue(value);
+    *os << text::utf16ToUtf8Lossy(type) << ' ' << text::utf16ToUtf8Lossy(value);
+}
+
+}  // namespace orrery::lang

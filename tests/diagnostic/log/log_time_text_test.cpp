@@ -1,5 +1,7 @@
-// Tests of the time text of a warning log under several time zones.
+// Tests of the time text of a warning log: written under several time zones, and
+// scanned exactly as the C library's scanf reads the log's time format.
 #include "diagnostic/log/log_time_text.hpp"
+#include "diagnostic/log/log_time_reading.hpp"
 
 #include "tests/diagnostic/log/log_test_support.hpp"
 
@@ -12,42 +14,48 @@
 #include <string>
 
 using orrery::interp::datenumFromDatevec;
+using orrery::lang::diagnostic::LogTimeFields;
 using orrery::lang::diagnostic::logTimeText;
 
-namespace {
-
-bool daylightSavingNow() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return local.tm_isdst > 0;
-}
-
-}  // namespace
-
 TEST(LogTimeText, EndsInTheZonesStandardOffsetNowWithHoursAndMinutesSignedApart) {
-    struct Case {
-        const char* zone;
-        const char16_t* text;
-    };
     // The last zone has Berlin's rules with summer time all year: the standard
     // offset is written while summer time is in force.
-    const Case cases[] = {
+    const std::pair<const char*, const char16_t*> cases[] = {
         {"UTC", u"2024-03-05 14:07:09.250 +0000"},
         {"America/New_York", u"2024-03-05 14:07:09.250 -0500"},
         {"Asia/Kolkata", u"2024-03-05 14:07:09.250 +0530"},
         {"America/St_Johns", u"2024-03-05 14:07:09.250 -03-30"},
-        {"Europe/Berlin", u"2024-03-05 14:07:09.250 +0100"},
         {"CET-1CEST-2,J1/0,J365/25", u"2024-03-05 14:07:09.250 +0100"},
     };
     const double serial = datenumFromDatevec(2024, 3, 5, 14, 7, 9.25);
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.zone);
-        const orrery::test::ZoneScope zone(c.zone);
-        EXPECT_EQ(logTimeText(serial), c.text);
+    for (const auto& [zone, text] : cases) {
+        SCOPED_TRACE(zone);
+        const orrery::test::ZoneScope scope(zone);
+        EXPECT_EQ(logTimeText(serial), text);
     }
-    const orrery::test::ZoneScope summer("CET-1CEST-2,J1/0,J365/25");
-    EXPECT_TRUE(daylightSavingNow());
+    const orrery::test::ZoneScope summer(cases[4].first);
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    EXPECT_GT(local.tm_isdst, 0) << "the last zone is in summer time";
+}
+
+TEST(LogTimeReading, ScansAsTheCLibraryScansTheTimeFormat) {
+    for (const char* text :
+         {"2024-03-05 14:07:09.250 +0100", "2024-03-01 10:00:00.000 -03-30", "2024-03-01 10:00:00 +0100",
+          "2024-03-01T10:00:00.000 +0100", "2024- 3-+1\t\n1:-2: 3.,.7+5", "2024-03-01 10:00:00.-5 -",
+          "99999999999-4294967297-2147483648 -9999999999999999999999:0:0.0 0", "2024--03-01 10:00:00.000 +0100", "",
+          "+-1-1-1 1:1:1.1 1"}) {
+        SCOPED_TRACE(text);
+        LogTimeFields expected{};
+        const bool read = std::sscanf(text, "%d-%d-%d %d:%d:%d%*[.,]%d %d", &expected[0], &expected[1], &expected[2],
+                                      &expected[3], &expected[4], &expected[5], &expected[6], &expected[7]) == 8;
+        LogTimeFields fields{};
+        EXPECT_EQ(orrery::lang::diagnostic::scanLogTime(text, fields), read);
+        if (read) {
+            EXPECT_EQ(fields, expected);
+        }
+    }
 }
 
 // The time text is printed field by field; it must equal what the C format

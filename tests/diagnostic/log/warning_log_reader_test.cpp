@@ -2,7 +2,7 @@
 // refusal with its arguments, block boundaries, zones and hostile files.
 #include "diagnostic/log/warning_log_reader.hpp"
 
-#include "tests/diagnostic/log/printf_argument_print.hpp"
+#include "tests/diagnostic/log/log_test_support.hpp"
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/interp/dates.hpp>
@@ -11,16 +11,10 @@
 #include <gtest/gtest.h>
 #include <boost/lexical_cast.hpp>
 
-#include <unistd.h>
-#include <cstdlib>
-#include <ctime>
-#include <filesystem>
 #include <fstream>
-#include <optional>
 #include <string>
 #include <vector>
 
-namespace fs = std::filesystem;
 using namespace orrery;
 using catalogue::MessageArgument;
 using lang::PrintfArgument;
@@ -28,11 +22,11 @@ using lang::StackFrame;
 using lang::diagnostic::findLogEnd;
 using lang::diagnostic::readWarningLogFile;
 using lang::diagnostic::Warning;
+using test::kFooter;
+using test::kHeader;
 
 namespace {
 
-const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<log>\n";
-const std::string kFooter = "</log>\n";
 const std::string kStart = R"(<warning identifier="a:b" wasDisabled="false" time="2024-03-01 10:00:00.250 +0100">)";
 
 /// A log made of the header, the given elements and the footer.
@@ -41,40 +35,17 @@ std::string logOf(const std::string& elements) { return kHeader + elements + kFo
 /// A warning element with the given content, inside a whole log.
 std::string logWithWarning(const std::string& content) { return logOf(kStart + content + "</warning>\n"); }
 
-/// Selects a time zone for its lifetime.
-class ScopedZone {
-public:
-    explicit ScopedZone(const char* zone) {
-        if (const char* given = std::getenv("TZ")) previous_ = given;
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    ~ScopedZone() {
-        if (previous_)
-            ::setenv("TZ", previous_->c_str(), 1);
-        else
-            ::unsetenv("TZ");
-        ::tzset();
-    }
-    ScopedZone(const ScopedZone&) = delete;
-    ScopedZone& operator=(const ScopedZone&) = delete;
-
-private:
-    std::optional<std::string> previous_;
-};
-
 class WarningLogReader : public testing::Test {
 protected:
-    void TearDown() override { fs::remove(path_); }
-
     /// Writes content to the test's file and answers its path.
     std::u16string fileWith(const std::string& content) {
-        std::ofstream(path_, std::ios::binary | std::ios::trunc) << content;
-        return text::utf8ToUtf16(path_.string());
+        std::ofstream(text::utf16ToUtf8(path_), std::ios::binary | std::ios::trunc) << content;
+        return path_;
     }
     std::vector<Warning> read(const std::string& content) { return readWarningLogFile(fileWith(content)); }
 
-    fs::path path_ = fs::temp_directory_path() / ("orrery_reader_" + std::to_string(::getpid()) + ".xml");
+    test::TemporaryWorkingFolder folder_;
+    std::u16string path_ = folder_.file("read.xml");
 };
 
 double serial(double year, double month, double day, double hour, double minute, double seconds) {
@@ -84,14 +55,12 @@ double serial(double year, double month, double day, double hour, double minute,
 }  // namespace
 
 TEST_F(WarningLogReader, ReadsRecordsWithEscapedTextsArgumentsAndFrames) {
-    const ScopedZone utc("UTC");
+    const test::ZoneScope utc("UTC");
     const std::string content =
         logOf(kStart +
               "\n        <message>x#a#y &lt;&amp;&quot;&apos;&gt; ##1 \xC3\xA9 #d83d##de00#</message>\n"
               "        <format>%s\t%d</format>\n"
               "        <arg type=\"char\">65</arg>\n        <arg type=\"int32\">-7</arg>\n"
-              "        <arg type=\"uint32\">-1</arg>\n        <arg type=\"int64\">-9223372036854775808</arg>\n"
-              "        <arg type=\"uint64\">18446744073709551615</arg>\n        <arg type=\"double\">0.5</arg>\n"
               "        <arg type=\"string\"></arg>\n"
               "        <frame file=\"/a/f#a#.orr\" name=\"f\" line=\"0\"/>\n"
               "        <frame FILE=\"g.orr\" Name=\"g\" line=\"4294967295\"/>\n    </warning>\n"
@@ -104,9 +73,7 @@ TEST_F(WarningLogReader, ReadsRecordsWithEscapedTextsArgumentsAndFrames) {
     first.setIdentifier("a:b");
     first.setMessage(u"x\ny <&\"'> #1 \u00E9 \U0001F600");
     first.setFormat(u"%s\t%d");
-    first.setArguments({std::u16string(u"A"), std::int32_t{-7}, std::uint32_t{4294967295U},
-                        std::int64_t{-9223372036854775807LL - 1}, std::uint64_t{18446744073709551615ULL}, 0.5,
-                        std::u16string()});
+    first.setArguments({std::u16string(u"A"), std::int32_t{-7}, std::u16string()});
     first.setStack({StackFrame{u"/a/f\n.orr", u"f", 0}, StackFrame{u"g.orr", u"g", 4294967295U}});
     first.setTime(serial(2024, 3, 1, 9, 0, 0.25));
     EXPECT_EQ(warnings[0], first);
@@ -117,9 +84,8 @@ TEST_F(WarningLogReader, ReadsRecordsWithEscapedTextsArgumentsAndFrames) {
     second.setTime(serial(2023, 12, 1, 4, 59, 59.999));
     EXPECT_EQ(warnings[1], second);
     EXPECT_EQ(findLogEnd(fileWith(content)), content.size() - kFooter.size());
-}
 
-TEST_F(WarningLogReader, AcceptsAnEmptyLogAndALoneWarning) {
+    // An empty log, and a lone warning with no log around it.
     EXPECT_TRUE(read("<log/>").empty());
     EXPECT_EQ(read(kStart + "<message>m</message></warning>").size(), 1U);
     EXPECT_EQ(findLogEnd(fileWith(kStart + "</warning>")), 0U);
@@ -132,15 +98,13 @@ TEST_F(WarningLogReader, MovesTimesFromTheFilesZoneToTheReadersStandardZone) {
         double expected;
     };
     const Case cases[] = {
-        {"UTC", "2024-03-01 10:00:00.250 +0100", serial(2024, 3, 1, 9, 0, 0.25)},
         {"EST5EDT,M3.2.0,M11.1.0", "2024-07-01 10:00:00.000 +0100", serial(2024, 7, 1, 4, 0, 0)},
-        {"IST-5:30", "2024-03-01 10:00:00.000 +0000", serial(2024, 3, 1, 15, 30, 0)},
         {"UTC", "2024-03-01 00:10:07.5 +0000", serial(2024, 3, 1, 0, 10, 7.005)},  // a count of milliseconds
         {"UTC", "2024-03-01 10:00:00.000 -03-30", serial(2024, 3, 1, 10, 3, 0)},   // the zone reads as -3
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.zone) + " " + c.time);
-        const ScopedZone zone(c.zone);
+        const test::ZoneScope zone(c.zone);
         const auto warnings = read(
             logOf("<warning identifier=\"\" wasDisabled=\"false\" time=\"" + std::string(c.time) + "\"></warning>"));
         ASSERT_EQ(warnings.size(), 1U);
@@ -155,28 +119,17 @@ TEST_F(WarningLogReader, RefusesEachBreachWithItsIdentifierAndArguments) {
         const char* identifier;
         std::vector<MessageArgument> arguments;
     };
-    const std::string p = "ORRERY:warning:XMLParser:";
     const Case cases[] = {
         {"empty file", "", "ParseError", {u"no element found", 1.0, 1.0}},
         {"truncated", kHeader + "<warn", "ParseError", {u"unclosed token", 3.0, 1.0}},
-        {"junk after the log", "<log/>\n x", "ParseError", {u"junk after document element", 2.0, 2.0}},
         {"unknown element", logOf("<Warning/>"), "UnknownElement", {u"Warning"}},
         {"nested log", logOf("<log/>"), "NestedLog", {}},
         {"log attribute", "<log version=\"1\"/>", "UnknownAttribute", {u"log", u"version"}},
         {"nested warning", logWithWarning(kStart), "NestedWarning", {}},
         {"message outside a warning", logOf("<message/>"), "UnexpectedElement", {u"message"}},
         {"attributes are checked first", logOf("<format a=\"\"/>"), "UnknownAttribute", {u"format", u"a"}},
-        {"arg outside a warning", logOf("<arg/>"), "UnexpectedElement", {u"arg"}},
         {"frame in a message", logWithWarning("<message><frame/></message>"), "ImmutableElement", {u"frame"}},
-        {"arg in a frame",
-         logWithWarning("<frame file=\"\" name=\"\" line=\"1\"><arg/></frame>"),
-         "ImmutableElement",
-         {u"arg"}},
         {"first missing name", logOf("<warning identifier=\"\"/>"), "MissingAttribute", {u"warning", u"time"}},
-        {"missing frame name",
-         logWithWarning("<frame file=\"\" LINE=\"1\"/>"),
-         "MissingAttribute",
-         {u"frame", u"name"}},
         {"a name twice in two cases",
          logOf("<warning identifier=\"\" IDENTIFIER=\"\"/>"),
          "UnknownAttribute",
@@ -199,13 +152,14 @@ TEST_F(WarningLogReader, RefusesEachBreachWithItsIdentifierAndArguments) {
          logWithWarning("<frame file=\"#4G#\" name=\"\" line=\"1\"/>"),
          "InvalidHexEntry",
          {u"#4G#"}},
-        {"unclosed escape", logWithWarning("<message>abc#41</message>"), "UnmatchedEscapedCharacter", {u"#", u"#41"}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        const std::string identifier = p + c.identifier;
-        EXPECT_MSGID_ARGS(read(c.content), identifier, c.arguments);
+        EXPECT_MSGID_ARGS(read(c.content), std::string("ORRERY:warning:XMLParser:") + c.identifier, c.arguments);
     }
+    // Arguments and lines that do not convert raise the conversion's own failure.
+    EXPECT_THROW(read(logWithWarning("<arg type=\"int32\">2147483648</arg>")), boost::bad_lexical_cast);
+    EXPECT_THROW(read(logWithWarning("<frame file=\"\" name=\"\" line=\"4294967296\"/>")), boost::bad_lexical_cast);
 }
 
 TEST_F(WarningLogReader, ScanOnlySkipsTimesButChecksTheRest) {
@@ -216,16 +170,11 @@ TEST_F(WarningLogReader, ScanOnlySkipsTimesButChecksTheRest) {
     EXPECT_MSGID(findLogEnd(fileWith("<log>")), "ORRERY:warning:XMLParser:ParseError");
 }
 
-TEST_F(WarningLogReader, ArgumentsThatDoNotConvertRaiseTheConversionFailure) {
-    EXPECT_THROW(read(logWithWarning("<arg type=\"int32\">2147483648</arg>")), boost::bad_lexical_cast);
-    EXPECT_THROW(read(logWithWarning("<frame file=\"\" name=\"\" line=\"4294967296\"/>")), boost::bad_lexical_cast);
-}
-
 TEST_F(WarningLogReader, MissingAndUnreadableFilesRaiseTheirLogFileIdentifiers) {
-    const std::u16string missing = text::utf8ToUtf16(path_.string()) + u".missing";
+    const std::u16string missing = path_ + u".missing";
     EXPECT_MSGID_ARGS(readWarningLogFile(missing), "ORRERY:warning:LogFile:OpenFileRead",
                       (std::vector<MessageArgument>{missing, u"No such file or directory"}));
-    const std::u16string folder = text::utf8ToUtf16(fs::temp_directory_path().string());
+    const std::u16string folder = folder_.file("");
     EXPECT_MSGID_ARGS(findLogEnd(folder), "ORRERY:warning:LogFile:FileRead",
                       (std::vector<MessageArgument>{folder, u"Is a directory"}));
 }
@@ -233,7 +182,7 @@ TEST_F(WarningLogReader, MissingAndUnreadableFilesRaiseTheirLogFileIdentifiers) 
 // The file is fed in blocks of 1024 bytes: a short last block, or an empty final
 // one after a full block, reads the same.
 TEST_F(WarningLogReader, ReadsTheSameAcrossTheBlockBoundary) {
-    const ScopedZone utc("UTC");
+    const test::ZoneScope utc("UTC");
     for (std::size_t size : {1023U, 1024U, 1025U, 2048U}) {
         SCOPED_TRACE(size);
         const std::string element = kStart + "<message>m</message><format>";
@@ -248,29 +197,15 @@ TEST_F(WarningLogReader, ReadsTheSameAcrossTheBlockBoundary) {
     }
 }
 
-// Entity expansion is cut off by the parser's amplification limit; huge values
-// and deep nesting are refused at their first element.
-TEST_F(WarningLogReader, HostileFilesFailPromptly) {
-    std::string laughs = "<?xml version=\"1.0\"?>\n<!DOCTYPE log [\n<!ENTITY l0 \"lollollollollollollollollollol\">\n";
-    for (int i = 1; i <= 9; ++i)
-        laughs += "<!ENTITY l" + std::to_string(i) + " \"" + [&] {
-            std::string refs;
-            for (int k = 0; k < 10; ++k) refs += "&l" + std::to_string(i - 1) + ";";
-            return refs;
-        }() + "\">\n";
-    laughs += "]>\n" + std::string("<log>") + kStart + "<message>&l9;</message></warning></log>\n";
+// Entity expansion is cut off by the parser's amplification limit.
+TEST_F(WarningLogReader, ExponentialEntityExpansionFailsPromptly) {
+    std::string laughs = "<!DOCTYPE log [<!ENTITY l0 \"lollollollollollollollollollol\">\n";
+    for (int i = 1; i <= 9; ++i) {
+        const std::string ref = "&l" + std::to_string(i - 1) + ";";
+        laughs += "<!ENTITY l" + std::to_string(i) + " \"" + ref + ref + ref + ref + ref + ref + ref + ref + ref + ref +
+                  "\">\n";
+    }
+    laughs += "]>\n<log>" + kStart + "<message>&l9;</message></warning></log>\n";
     EXPECT_MSGID(read(laughs), "ORRERY:warning:XMLParser:ParseError");
     EXPECT_MSGID(findLogEnd(fileWith(laughs)), "ORRERY:warning:XMLParser:ParseError");
-
-    EXPECT_MSGID_ARGS(read("<log x=\"" + std::string(std::size_t{1} << 24, 'x') + "\"/>"),
-                      "ORRERY:warning:XMLParser:UnknownAttribute", (std::vector<MessageArgument>{u"log", u"x"}));
-    std::string deep;
-    for (int i = 0; i < 100000; ++i) deep += kStart;
-    EXPECT_MSGID(read(logOf(deep)), "ORRERY:warning:XMLParser:NestedWarning");
-
-    // An external entity is never fetched.
-    const auto warnings = read("<!DOCTYPE log [<!ENTITY x SYSTEM \"/etc/hostname\">]><log>" + kStart +
-                               "<message>&x;</message></warning></log>");
-    ASSERT_EQ(warnings.size(), 1U);
-    EXPECT_EQ(warnings[0].getMessage(), u"");
 }

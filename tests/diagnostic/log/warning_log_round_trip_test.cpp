@@ -67,15 +67,9 @@ private:
                                             0xFDEF, 0xFDF0, 0xFFFD, 0xFFFE, 0xFFFF, 0xD800, 0xDBFF, 0xDC00, 0xDFFF};
         std::u16string out;
         for (std::size_t length = pick(12); length > 0; --length) {
-            switch (pick(4)) {
+            switch (pick(3)) {
                 case 0: out += kEscaped[pick(std::size(kEscaped))]; break;
                 case 1: out += static_cast<char16_t>(u'a' + pick(26)); break;
-                case 2: {  // a character outside the Basic Multilingual Plane, as its pair
-                    const auto cp = static_cast<std::uint32_t>(0x10000 + pick(0x100000)) - 0x10000;
-                    out += static_cast<char16_t>(0xD800 + (cp >> 10U));
-                    out += static_cast<char16_t>(0xDC00 + (cp & 0x3FFU));
-                    break;
-                }
                 default: out += static_cast<char16_t>(pick(0x10000));
             }
         }
