@@ -1,6 +1,7 @@
 // Module start and stop: built-in registration, class registration, warning log.
 #include "diagnostic/module/entry_points.hpp"
 
+#include "diagnostic/classes/class_registration.hpp"
 #include "diagnostic/log/warning_log_factory.hpp"
 #include "diagnostic/module/reset_last_printed_warning.hpp"
 
@@ -23,8 +24,7 @@ void registerResetBuiltin() {
 void LxInitialize_diagnostic() {
     // A failure leaves the flag unset, so a later initialisation tries again.
     boost::call_once(resetBuiltinRegistered, &registerResetBuiltin);
-    // The Warning class and the log functions are registered here once the class
-    // exists in the module.
+    orrery::lang::diagnostic::registerWarningClassForModule();
 
     // Both functions go in before the log is set: the context destroys a log
     // with the destroy function installed at the moment it was set.

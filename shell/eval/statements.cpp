@@ -12,6 +12,7 @@
 #include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
+#include <orrery/ocos/dispatch.hpp>
 #include <orrery/text/text.hpp>
 
 #include <optional>
@@ -162,7 +163,14 @@ void Interpreter::execCommand(const lang::Stmt& stmt) {
     }
 }
 
+// Objects whose class defines disp show through it, under the variable's name.
 void Interpreter::show(std::string_view name, const ValueArray& v) {
+    const ValueArray* inputs[] = {&v};
+    if (v.is(ClassId::Object) && ocos::findMethodFor("disp", 1, inputs)) {
+        console::consoleWrite(console::ConsoleStream::Output, std::string(name) + " =\n");
+        callFunction("disp", {v}, 0);
+        return;
+    }
     console::consoleWrite(console::ConsoleStream::Output, displayText(name, v));
 }
 

@@ -2,6 +2,9 @@
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/interp/function_table.hpp>
+#include <orrery/lang/warning.hpp>
+#include <orrery/ocos/dispatch.hpp>
+#include <orrery/ocos/registry.hpp>
 #include <orrery/services/services.hpp>
 #include <orrery/value/value_array.hpp>
 #include <orrery/warning/warning_manager.hpp>
@@ -11,6 +14,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 using namespace orrery;
 
@@ -85,4 +89,25 @@ TEST_F(LoadedModule, TerminatingWithoutAContextOnlyClearsTheFunctions) {
         EXPECT_EQ(warning::utGetWarningLogFactoryFcn(), nullptr);
         EXPECT_EQ(warning::utGetWarningLogDestroyFcn(), nullptr);
     }).join();
+}
+
+TEST_F(LoadedModule, TheWarningClassStaysUsableAcrossUnloadAndReload) {
+    entry<EntryPoint>("LxInitialize_diagnostic")();
+    const auto registered = ocos::findClass("orrery.internal.diagnostic.Warning");
+    ASSERT_NE(registered, nullptr);
+    entry<EntryPoint>("LxTerminate_diagnostic")();
+    handle_.reset();
+    SetUp();
+    entry<EntryPoint>("LxInitialize_diagnostic")();
+    EXPECT_EQ(ocos::findClass("orrery.internal.diagnostic.Warning"), registered) << "registered once per process";
+
+    using Convert = value::ValueArrayPtr (*)(const std::vector<lang::diagnostic::Warning>&);
+    const auto convert =
+        entry<Convert>("_ZN6orrery4lang10diagnostic27convertWarningsToValueArrayERKSt6vectorINS1_7WarningESaIS3_EE");
+    const auto objects = convert({lang::diagnostic::Warning(), lang::diagnostic::Warning()});
+    const value::ValueArray* inputs[] = {objects.get(), objects.get()};
+    value::ValueArrayPtr answer[1];
+    ASSERT_TRUE(ocos::callMethodIfDefined("isequal", 1, answer, 2, inputs));
+    EXPECT_TRUE(answer[0]->logicalAt(0));
+    entry<EntryPoint>("LxTerminate_diagnostic")();
 }

@@ -1,0 +1,55 @@
+// open, close and load of warning logs, called from the language by dotted name.
+#include "diagnostic/classes/log_functions.hpp"
+
+#include "diagnostic/classes/warning_info.hpp"
+#include "diagnostic/log/issue_warning.hpp"
+#include "diagnostic/log/warning_log_reader.hpp"
+#include "diagnostic/record/convert_warnings.hpp"
+
+#include <orrery/except/internal_error.hpp>
+#include <orrery/warning/warning_log.hpp>
+#include <orrery/warning/warning_manager.hpp>
+
+namespace orrery::lang::diagnostic {
+namespace {
+
+/// The current context's log, made and installed when there is none.
+warning::utWarningLog& currentLog() {
+    warning::WarningManagerContext* context = warning::utGetWarningManagerContext();
+    if (context == nullptr) except::internalError("warning log", "no warning manager context");
+    warning::utWarningLog* log = getOrCreateWarningLog(context);
+    if (log == nullptr) except::internalError("warning log", "the warning log could not be made");
+    return *log;
+}
+
+}  // namespace
+
+OpenLogMI::OpenLogMI() : WarningBaseMI("open") { addInput(ocos::intern("unicodeString")); }
+
+void OpenLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* /*plhs*/, std::int32_t /*nrhs*/,
+                       const value::ValueArray* const* prhs) const {
+    const std::u16string fileName = prhs[0]->text();
+    currentLog().openLog(fileName);
+}
+
+CloseLogMI::CloseLogMI() : WarningBaseMI("close") { addInput(ocos::intern("unicodeString")); }
+
+void CloseLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* /*plhs*/, std::int32_t /*nrhs*/,
+                        const value::ValueArray* const* prhs) const {
+    const std::u16string fileName = prhs[0]->text();
+    currentLog().closeLog(fileName);
+}
+
+LoadLogMI::LoadLogMI() : WarningBaseMI("load") {
+    addInput(ocos::intern("unicodeString"));
+    addOutput(ocos::intern(kWarningClassPath));
+}
+
+void LoadLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* plhs, std::int32_t /*nrhs*/,
+                       const value::ValueArray* const* prhs) const {
+    const std::u16string fileName = prhs[0]->text();
+    // The reader raises before anything is made, so a failure leaves no array.
+    plhs[0] = convertWarningsToValueArray(readWarningLog(fileName));
+}
+
+}  // namespace orrery::lang::diagnostic
