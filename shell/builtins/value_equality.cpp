@@ -1,6 +1,8 @@
 // The language's isequal over every class of value.
 #include "shell/builtins/value_equality.hpp"
 
+#include <orrery/except/host_messages.hpp>
+#include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/class_info.hpp>
 #include <orrery/ocos/dispatch.hpp>
 #include <orrery/ocos/object_access.hpp>
@@ -17,7 +19,7 @@ namespace {
 using value::ClassId;
 using value::ValueArray;
 
-bool equalAt(const ValueArray& a, const ValueArray& b);
+bool equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth);
 
 bool isNumberLike(const ValueArray& v) { return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char); }
 
@@ -43,13 +45,13 @@ bool charEqualsString(const ValueArray& chars, const ValueArray& string) {
     return text && *text == chars.chars();
 }
 
-bool cellsEqual(const ValueArray& a, const ValueArray& b) {
+bool cellsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     for (std::size_t i = 0; i < a.numel(); ++i)
-        if (!equalAt(a.cellAt(i), b.cellAt(i))) return false;
+        if (!equalAt(a.cellAt(i), b.cellAt(i), depth)) return false;
     return true;
 }
 
-bool structsEqual(const ValueArray& a, const ValueArray& b) {
+bool structsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     std::vector<std::string> namesA = a.fieldNames();
     std::vector<std::string> namesB = b.fieldNames();
     std::sort(namesA.begin(), namesA.end());
@@ -60,7 +62,7 @@ bool structsEqual(const ValueArray& a, const ValueArray& b) {
         for (const auto& name : namesA) {
             const ValueArray* x = a.field(i, name);
             const ValueArray* y = b.field(i, name);
-            if (!equalAt(x ? *x : empty, y ? *y : empty)) return false;
+            if (!equalAt(x ? *x : empty, y ? *y : empty, depth)) return false;
         }
     }
     return true;
@@ -76,30 +78,33 @@ std::optional<bool> equalByClassMethod(const ValueArray& a, const ValueArray& b)
 
 // Elements of one class are equal when both hold no instance, share one, or
 // hold instances whose properties have equal values.
-bool elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i) {
+bool elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i, std::size_t depth) {
     const auto x = a.objectAt(i);
     const auto y = b.objectAt(i);
     if (x == y) return true;
     if (!x || !y) return false;
     for (const auto& property : a.classInfo()->getProperties()) {
         const std::string_view name = property.getName().view();
-        if (!equalAt(ocos::getProperty(a, i, name), ocos::getProperty(b, i, name))) return false;
+        if (!equalAt(ocos::getProperty(a, i, name), ocos::getProperty(b, i, name), depth)) return false;
     }
     return true;
 }
 
 // Objects are compared by value: same class, same size, and equal elements.
-bool objectsEqual(const ValueArray& a, const ValueArray& b) {
+bool objectsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     if (!a.is(ClassId::Object) || !b.is(ClassId::Object)) return false;
     if (a.className() != b.className() || a.dims() != b.dims()) return false;
     if (const auto decided = equalByClassMethod(a, b)) return *decided;
     for (std::size_t i = 0; i < a.numel(); ++i)
-        if (!elementsEqual(a, b, i)) return false;
+        if (!elementsEqual(a, b, i, depth)) return false;
     return true;
 }
 
-bool equalAt(const ValueArray& a, const ValueArray& b) {
-    if (a.is(ClassId::Object) || b.is(ClassId::Object)) return objectsEqual(a, b);
+// depth: how many containers enclose a and b; bounded so that the walk ends
+// with a language error, not an exhausted stack.
+bool equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth) {
+    if (++depth > value::kMaxValueDepth) except::throwMessage(except::host::NestedTooDeep(value::kMaxValueDepth));
+    if (a.is(ClassId::Object) || b.is(ClassId::Object)) return objectsEqual(a, b, depth);
     if (a.is(ClassId::Char) && b.is(ClassId::String)) return charEqualsString(a, b);
     if (a.is(ClassId::String) && b.is(ClassId::Char)) return charEqualsString(b, a);
     if (a.dims() != b.dims()) return false;
@@ -107,14 +112,14 @@ bool equalAt(const ValueArray& a, const ValueArray& b) {
     if (a.classId() != b.classId()) return false;
     switch (a.classId()) {
         case ClassId::String: return stringsEqual(a, b);
-        case ClassId::Cell: return cellsEqual(a, b);
-        case ClassId::Struct: return structsEqual(a, b);
+        case ClassId::Cell: return cellsEqual(a, b, depth);
+        case ClassId::Struct: return structsEqual(a, b, depth);
         default: return false;
     }
 }
 
 }  // namespace
 
-bool valuesEqual(const ValueArray& a, const ValueArray& b) { return equalAt(a, b); }
+bool valuesEqual(const ValueArray& a, const ValueArray& b) { return equalAt(a, b, 0); }
 
 }  // namespace orrery::shell::builtins

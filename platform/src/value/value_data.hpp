@@ -39,7 +39,17 @@ using Store = std::variant<std::vector<double>, std::vector<float>, std::vector<
                            std::vector<std::uint32_t>, std::vector<std::int64_t>, std::vector<std::uint64_t>,
                            LogicalStore, std::u16string, StringStore, CellStore, StructStore, ObjectStore>;
 
+/// Dropping the last reference to a block frees the blocks nested in it one
+/// after another from a work list, not recursively, so values nested to any
+/// depth are freed without exhausting the machine stack.
 struct ValueArray::Data {
+    explicit Data(Store contents) : store(std::move(contents)) {}
+    Data(const Data&) = default;
+    Data(Data&&) = default;
+    Data& operator=(const Data&) = delete;
+    Data& operator=(Data&&) = delete;
+    ~Data();
+
     Store store;
 };
 

@@ -21,5 +21,6 @@ ORRERY_MESSAGE_KEY(NotScalar, "ORRERY:value:notScalar");
 ORRERY_MESSAGE_KEY(NotLogicalConvertible, "ORRERY:value:notLogicalConvertible");
 ORRERY_MESSAGE_KEY(NoSuchField, "ORRERY:value:noSuchField");
 ORRERY_MESSAGE_KEY(BadDimensions, "ORRERY:value:badDimensions");
+ORRERY_MESSAGE_KEY(NestedTooDeep, "ORRERY:value:nestedTooDeep");
 
 }  // namespace orrery::except::host

@@ -143,6 +143,10 @@ private:
     std::shared_ptr<Data> data_;
 };
 
+/// How deep operations that walk into cells, structs and objects (equality, for
+/// one) may descend; deeper values raise "ORRERY:value:nestedTooDeep".
+inline constexpr std::size_t kMaxValueDepth = 1000;
+
 /// Owning handle of a value: what built-ins put in their output slots.
 using ValueArrayPtr = std::unique_ptr<ValueArray>;
 
