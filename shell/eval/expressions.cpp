@@ -35,9 +35,7 @@ ValueArray Interpreter::eval(const lang::Expr& expr) {
         case ExprKind::Colon: return ValueArray::chars(u":");
         case ExprKind::EndIndex: return evalEnd(expr);
         case ExprKind::Unary: return applyOperator(expr.op, eval(*expr.operands[0]), nullptr);
-        case ExprKind::Binary:
-            if (expr.op == Op::AndAnd || expr.op == Op::OrOr) return evalShortCircuit(expr);
-            return evalBinary(expr);
+        case ExprKind::Binary: return evalBinary(expr);
         case ExprKind::Range: return evalRange(expr);
         case ExprKind::Transpose: return values::transpose(eval(*expr.operands[0]));
         case ExprKind::Matrix:
@@ -58,10 +56,21 @@ Interpreter::Values Interpreter::evalMulti(const lang::Expr& expr, int nargout) 
     return {eval(expr)};
 }
 
+// A chain of binary operators (a + b - c, each the left operand of the next) is
+// walked as a loop from its innermost operator out: its length costs no stack.
 ValueArray Interpreter::evalBinary(const lang::Expr& expr) {
-    const ValueArray left = eval(*expr.operands[0]);
-    const ValueArray right = eval(*expr.operands[1]);
-    return applyOperator(expr.op, left, &right);
+    std::vector<const lang::Expr*> chain{&expr};
+    while (chain.back()->operands[0]->kind == ExprKind::Binary) chain.push_back(chain.back()->operands[0].get());
+    ValueArray left = eval(*chain.back()->operands[0]);
+    for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
+        if ((*node)->op == Op::AndAnd || (*node)->op == Op::OrOr) {
+            left = evalShortCircuit(**node, left);
+        } else {
+            const ValueArray right = eval(*(*node)->operands[1]);
+            left = applyOperator((*node)->op, left, &right);
+        }
+    }
+    return left;
 }
 
 // Operators on objects run the method their class defines for them.
@@ -81,8 +90,8 @@ ValueArray Interpreter::applyOperator(Op op, const ValueArray& a, const ValueArr
     return b != nullptr ? values::binaryOperation(op, a, *b) : values::unaryOperation(op, a);
 }
 
-ValueArray Interpreter::evalShortCircuit(const lang::Expr& expr) {
-    const bool left = eval(*expr.operands[0]).toLogicalScalar().logicalAt(0);
+ValueArray Interpreter::evalShortCircuit(const lang::Expr& expr, const ValueArray& leftValue) {
+    const bool left = leftValue.toLogicalScalar().logicalAt(0);
     if (expr.op == Op::AndAnd && !left) return ValueArray::logicalScalar(false);
     if (expr.op == Op::OrOr && left) return ValueArray::logicalScalar(true);
     return eval(*expr.operands[1]).toLogicalScalar();

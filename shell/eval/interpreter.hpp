@@ -86,7 +86,8 @@ private:
     value::ValueArray eval(const lang::Expr& expr);
     Values evalMulti(const lang::Expr& expr, int nargout);
     value::ValueArray evalBinary(const lang::Expr& expr);
-    value::ValueArray evalShortCircuit(const lang::Expr& expr);
+    /// The right operand of && or || when the value of the left does not decide.
+    value::ValueArray evalShortCircuit(const lang::Expr& expr, const value::ValueArray& left);
     value::ValueArray evalRange(const lang::Expr& expr);
     value::ValueArray evalEnd(const lang::Expr& expr);
     value::ValueArray evalBracketed(const lang::Expr& expr);

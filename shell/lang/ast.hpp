@@ -69,6 +69,13 @@ struct Suffix {
 };
 
 struct Expr {
+    Expr() = default;
+    Expr(const Expr&) = delete;
+    Expr& operator=(const Expr&) = delete;
+    /// Frees the operands' subtrees from a list, so a long operator chain
+    /// does not recurse once per operator.
+    ~Expr();
+
     ExprKind kind = ExprKind::Number;
     SourcePos pos;
     int depth = 1;  ///< height of the tree below and including this node

@@ -9,6 +9,8 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
+#include <optional>
+
 namespace orrery::shell::lang {
 namespace detail {
 
@@ -68,7 +70,8 @@ Program Parser::run() {
 }
 
 Block Parser::parseBlock(std::initializer_list<TokenKind> terminators) {
-    Nesting nesting(*this);
+    std::optional<Nesting> nesting;  // the program's own block is no nesting
+    if (blockDepth_ > 0) nesting.emplace(*this);
     ++blockDepth_;
     Block block;
     for (;;) {

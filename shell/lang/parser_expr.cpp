@@ -59,25 +59,28 @@ ExprPtr Parser::makeNode(ExprKind kind, SourcePos pos) {
     return node;
 }
 
-// Records the node's height and refuses trees too tall to walk safely.
+// Records the node's height and refuses trees too tall to walk safely. The left
+// operand of a binary operator continues a chain (a + b - c) instead of nesting
+// in it: chains are walked and freed as loops, so their length costs no height.
 ExprPtr Parser::finish(ExprPtr node) {
+    const bool chain = node->kind == ExprKind::Binary;
     int height = 0;
-    for (const auto& operand : node->operands) height = std::max(height, operand->depth);
+    for (std::size_t i = chain ? 1 : 0; i < node->operands.size(); ++i)
+        height = std::max(height, node->operands[i]->depth);
     for (const auto& suffix : node->suffixes)
         for (const auto& arg : suffix.args) height = std::max(height, arg->depth);
     for (const auto& row : node->rows)
         for (const auto& element : row) height = std::max(height, element->depth);
-    node->depth = height + 1;
+    node->depth = std::max(height + 1, chain ? node->operands[0]->depth : 0);
     if (node->depth > kMaxExpressionDepth) {
         except::throwMessage(TooDeep(sourceName_, node->pos.line, node->pos.column, kMaxExpressionDepth));
     }
     return node;
 }
 
-ExprPtr Parser::parseExpr() {
-    Nesting nesting(*this);
-    return parseBinaryLevel(0);
-}
+// Nesting is counted where text really nests (brackets, parentheses, argument
+// lists, prefix operators, blocks), not once more per expression inside them.
+ExprPtr Parser::parseExpr() { return parseBinaryLevel(0); }
 
 ExprPtr Parser::parseBinaryLevel(int level) {
     if (level == kRangeLevel) return parseRange();
@@ -172,6 +175,7 @@ void Parser::parseFieldSuffix(Expr& postfix) {
     suffix.pos = take().pos;
     if (accept(LParen)) {
         suffix.kind = SuffixKind::DynamicField;
+        Nesting nesting(*this);
         suffix.args.push_back(parseExpr());
         expect(RParen, "')' after the field name expression");
     } else {
@@ -183,6 +187,7 @@ void Parser::parseFieldSuffix(Expr& postfix) {
 
 void Parser::parseArguments(Suffix& suffix, TokenKind close) {
     const std::string closing = close == RParen ? "')'" : "'}'";
+    Nesting nesting(*this);
     ++indexDepth_;
     if (!accept(close)) {
         for (;;) {
@@ -224,6 +229,7 @@ ExprPtr Parser::parsePrimary() {
             return makeNode(ExprKind::EndIndex, take().pos);
         case LParen: {
             take();
+            Nesting nesting(*this);
             const int outerIndexDepth = indexDepth_;
             ExprPtr inner = parseExpr();
             indexDepth_ = outerIndexDepth;

@@ -195,9 +195,14 @@ TEST_F(InterpreterTest, EndlessRecursionIsAnError) {
     EXPECT_TRUE(interp::currentFrames().empty());
 }
 
+TEST_F(InterpreterTest, LongOperatorChainsAreNoNesting) {
+    std::string chain = "x = 1";
+    for (int i = 0; i < 100000; ++i) chain += " - 1 + 1";
+    EXPECT_EQ(run(chain + ", y = false && undefinedName || true"), "x = 1\ny = 1\n");
+}
+
 TEST_F(InterpreterTest, NestingTooDeepForTheStackIsAnError) {
-    std::string sum = "f(n - 1)";
-    for (int i = 0; i < 390; ++i) sum += " + 1";
+    const std::string sum = "f(n - 1)" + std::string(390, '\'');
     const std::string program =
         "function r = f(n)\n  if n > 0\n    r = " + sum + ";\n  else\n    r = 0;\n  end\nend\nf(127);";
     EXPECT_EQ(userErrorOf([&] { run(program); }).identifier(), "ORRERY:shell:tooDeepToRun");

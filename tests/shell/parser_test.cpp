@@ -64,12 +64,15 @@ TEST(Parser, RefusesMalformedStatements) {
 TEST(Parser, RefusesNestingDeeperThanItsLimits) {
     for (const std::string& source :
          {"x = " + repeat("(", 5000) + "1" + repeat(")", 5000), repeat("if 1\n", 500) + repeat("end\n", 500),
-          "x = 1" + repeat(" + 1", 20000), "s" + repeat(".f", 20000) + " = 1", "x = " + repeat("-", 20000) + "1"}) {
+          "x = 1" + repeat("'", 500), "x = [" + repeat("[", 100) + "1" + repeat("]", 101),
+          "s" + repeat(".f", 20000) + " = 1", "x = " + repeat("-", 20000) + "1"}) {
         SCOPED_TRACE(source.substr(0, 40));
         EXPECT_MSGID(parse(source, u"test"), "ORRERY:shell:tooDeep");
     }
-    // wide is fine: only depth is limited
+    // wide is fine, and so are long operator chains: only depth is limited
     EXPECT_NO_THROW(parse("x = [1" + repeat(", 1", 20000) + "]", u"test"));
+    EXPECT_NO_THROW(parse("x = 1" + repeat(" + 1", 20000), u"test"));
+    EXPECT_NO_THROW(parse("x = " + repeat("[", 100) + "1" + repeat("]", 100), u"test"));
 }
 
 TEST(Parser, KnowsWhenInputIsUnfinished) {
