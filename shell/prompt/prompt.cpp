@@ -1,7 +1,10 @@
 // The prompt on libedit's line editor.
 #include "shell/prompt/prompt.hpp"
 
+#include "shell/eval/interrupt.hpp"
 #include "shell/lang/parser.hpp"
+#include "shell/prompt/interrupt_signal.hpp"
+#include "shell/prompt/terminal_input.hpp"
 #include "shell/startup/session.hpp"
 
 #include <orrery/console/console_sink.hpp>
@@ -24,19 +27,27 @@ struct FreeLine {
 };
 using Line = std::unique_ptr<char, FreeLine>;
 
-/// Loads the history on construction and saves it on destruction.
+/// The line editor with the history loaded; each line added is saved at once,
+/// so a session that ends abruptly keeps what was typed.
 class History {
 public:
     History() : file_(historyFile()) {
+        // keys come through our reader (UTF-8, Ctrl-C); signals stay ours
+        rl_getc_function = readTerminalCharacter;
+        rl_catch_signals = 0;
         using_history();
         stifle_history(kHistoryLength);
         if (!file_.empty()) read_history(file_.c_str());
     }
-    ~History() {
-        if (!file_.empty()) write_history(file_.c_str());
-    }
     History(const History&) = delete;
     History& operator=(const History&) = delete;
+    ~History() = default;
+
+    void add(const std::string& line) const {
+        if (line.find_first_not_of(" \t") == std::string::npos) return;
+        add_history(line.c_str());
+        if (!file_.empty()) write_history(file_.c_str());
+    }
 
 private:
     std::filesystem::path file_;
@@ -60,12 +71,19 @@ std::filesystem::path historyFile() {
 
 void runPrompt(eval::Interpreter& interpreter) {
     const History history;
+    const InterruptSignal interruptSignal;
     std::string pending;
     for (;;) {
+        eval::takeInterrupt();  // a Ctrl-C that came after the last statement's check
         const Line line(readline(pending.empty() ? kPrompt : kContinuationPrompt));
+        if (eval::takeInterrupt()) {  // drop the half-typed line or block
+            pending.clear();
+            console::consoleWrite(console::ConsoleStream::Output, "\n");
+            continue;
+        }
         if (!line) break;
         const std::string text(line.get());
-        if (text.find_first_not_of(" \t") != std::string::npos) add_history(line.get());
+        history.add(text);
         if (pending.empty() && isExitWord(text)) break;
         pending += text + "\n";
         if (lang::needsMoreInput(pending)) continue;
