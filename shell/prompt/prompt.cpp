@@ -11,7 +11,11 @@
 
 #include <readline.h>
 
+#include <unistd.h>
+
+#include <clocale>
 #include <cstdlib>
+#include <iostream>
 #include <memory>
 #include <string>
 
@@ -61,6 +65,28 @@ bool isExitWord(const std::string& line) {
     return word == "exit" || word == "quit";
 }
 
+/// Joins lines until they make complete statements, then runs them.
+class LineRunner {
+public:
+    explicit LineRunner(eval::Interpreter& interpreter) : interpreter_(interpreter) {}
+
+    /// Takes one line; false when it is `exit` or `quit` outside a block.
+    bool feed(const std::string& text) {
+        if (pending_.empty() && isExitWord(text)) return false;
+        pending_ += text + "\n";
+        if (lang::needsMoreInput(pending_)) return true;
+        startup::runSource(interpreter_, pending_, u"<prompt>", u"");
+        pending_.clear();
+        return true;
+    }
+    bool midStatement() const { return !pending_.empty(); }
+    void drop() { pending_.clear(); }
+
+private:
+    eval::Interpreter& interpreter_;
+    std::string pending_;
+};
+
 }  // namespace
 
 std::filesystem::path historyFile() {
@@ -70,25 +96,29 @@ std::filesystem::path historyFile() {
 }
 
 void runPrompt(eval::Interpreter& interpreter) {
+    LineRunner runner(interpreter);
+    if (isatty(STDIN_FILENO) == 0) {  // piped input: plain lines, kept byte for byte
+        std::string text;
+        while (std::getline(std::cin, text) && runner.feed(text)) {
+        }
+        console::consoleWrite(console::ConsoleStream::Output, "\n");
+        return;
+    }
+    std::setlocale(LC_CTYPE, "");  // the line editor reads and returns text in the terminal's encoding
     const History history;
     const InterruptSignal interruptSignal;
-    std::string pending;
     for (;;) {
         eval::takeInterrupt();  // a Ctrl-C that came after the last statement's check
-        const Line line(readline(pending.empty() ? kPrompt : kContinuationPrompt));
+        const Line line(readline(runner.midStatement() ? kContinuationPrompt : kPrompt));
         if (eval::takeInterrupt()) {  // drop the half-typed line or block
-            pending.clear();
+            runner.drop();
             console::consoleWrite(console::ConsoleStream::Output, "\n");
             continue;
         }
         if (!line) break;
         const std::string text(line.get());
         history.add(text);
-        if (pending.empty() && isExitWord(text)) break;
-        pending += text + "\n";
-        if (lang::needsMoreInput(pending)) continue;
-        startup::runSource(interpreter, pending, u"<prompt>", u"");
-        pending.clear();
+        if (!runner.feed(text)) break;
     }
     console::consoleWrite(console::ConsoleStream::Output, "\n");
 }
