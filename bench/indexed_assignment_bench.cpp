@@ -30,9 +30,7 @@ void runScript(benchmark::State& state, const std::string& text) {
 }
 
 // x(k) = k over a row made beforehand, and its floor.
-void elementAssignment(benchmark::State& state) {
-    runScript(state, "x = zeros(1, N); for k = 1:N, x(k) = k; end");
-}
+void elementAssignment(benchmark::State& state) { runScript(state, "x = zeros(1, N); for k = 1:N, x(k) = k; end"); }
 void elementFloor(benchmark::State& state) {
     for (auto _ : state) {
         std::vector<double> x(kCount);
