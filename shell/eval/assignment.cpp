@@ -1,19 +1,20 @@
 // Assignments: plain, indexed, into fields and cells (nested to any depth),
-// and to several outputs at once.
+// and to several outputs at once. An indexed assignment first evaluates its
+// index arguments and field names, then changes the variable where it lies.
 #include "shell/eval/interpreter.hpp"
 
 #include "shell/eval/eval_messages.hpp"
-#include "shell/values/elements.hpp"
+#include "shell/eval/place_assignment.hpp"
 
 #include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/object_access.hpp>
-#include <orrery/text/text.hpp>
+
+#include <deque>
 
 namespace orrery::shell::eval {
 
 using lang::SuffixKind;
 using value::ClassId;
-using value::Dims;
 using value::ValueArray;
 
 void Interpreter::execAssign(const lang::Stmt& stmt) {
@@ -41,65 +42,63 @@ void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
         current_->set(target.name, std::move(rhs));
         return;
     }
-    ValueArray updated = assignChain(current_->find(target.name), target.suffixes, 0, std::move(rhs));
-    current_->set(target.name, std::move(updated));
+    std::vector<AssignStep> steps;
+    {
+        // A share of the variable while its index arguments run (they may
+        // change the workspace); released before the change, which then finds
+        // the data unshared unless something else holds it.
+        const ValueArray* existing = current_->find(target.name);
+        const ValueArray root = existing != nullptr ? *existing : ValueArray();
+        steps = planAssignment(root, target.suffixes);
+    }
+    if (ValueArray* place = current_->findMutable(target.name)) {
+        assignPlace(*place, steps, 0, std::move(rhs));
+        return;
+    }
+    ValueArray made;
+    assignPlace(made, steps, 0, std::move(rhs));
+    current_->set(target.name, std::move(made));
 }
 
-// The value `base` becomes when chain[k..] of it is assigned rhs. A null base
-// is a place that does not exist yet.
-ValueArray Interpreter::assignChain(const ValueArray* base, const std::vector<lang::Suffix>& chain, std::size_t k,
-                                    ValueArray rhs) {
-    if (k == chain.size()) return rhs;
-    const lang::Suffix& suffix = chain[k];
-    if (suffix.kind == SuffixKind::Field) return assignField(base, suffix.field, chain, k, std::move(rhs));
-    if (suffix.kind == SuffixKind::DynamicField)
-        return assignField(base, dynamicFieldName(suffix), chain, k, std::move(rhs));
-
-    const bool brace = suffix.kind == SuffixKind::Brace;
-    ValueArray container = base != nullptr ? *base : ValueArray();
-    if (brace && container.is(ClassId::Double) && container.isEmpty()) container = ValueArray::cell(container.dims());
-    if (brace && !container.is(ClassId::Cell))
-        except::throwMessage(NotIndexable(text::asciiToUtf16(container.className())));
-    const auto args = evalIndexArgs(suffix, container);
-    if (k + 1 == chain.size() && !brace) return values::assignIndexed(std::move(container), args, rhs);
-
-    // A nested place: the one element it lies in, when it exists already.
-    std::optional<ValueArray> element;
-    const auto selection = values::selectExisting(container.dims(), args);
-    if (selection && selection->positions.size() == 1) {
-        element = brace ? container.cellAt(selection->positions[0]) : values::indexValue(container, args);
+std::vector<AssignStep> Interpreter::planAssignment(const ValueArray& root, const std::vector<lang::Suffix>& chain) {
+    std::vector<AssignStep> steps;
+    const ValueArray fresh;
+    std::deque<ValueArray> made;  // elements picked by parentheses and properties on the way down
+    const ValueArray* node = &root;
+    for (std::size_t k = 0; k < chain.size(); ++k) {
+        const lang::Suffix& suffix = chain[k];
+        const bool last = k + 1 == chain.size();
+        if (suffix.kind == SuffixKind::Field || suffix.kind == SuffixKind::DynamicField) {
+            std::string name = suffix.kind == SuffixKind::Field ? suffix.field : dynamicFieldName(suffix);
+            if (isFreshPlace(*node) || (node->is(ClassId::Struct) && node->isEmpty())) {
+                node = &fresh;
+            } else {
+                requireFieldHolder(*node, name);
+                if (node->is(ClassId::Object)) {
+                    if (!last) node = &made.emplace_back(ocos::getProperty(*node, 0, name));
+                } else {
+                    const ValueArray* field = node->field(0, name);
+                    node = field != nullptr ? field : &fresh;
+                }
+            }
+            steps.push_back({SuffixKind::Field, std::move(name), {}});
+            continue;
+        }
+        const bool brace = suffix.kind == SuffixKind::Brace;
+        if (brace) requireCellPlace(*node);
+        auto args = evalIndexArgs(suffix, *node);
+        if (!last) {
+            const auto selection = values::selectExisting(node->dims(), args);
+            if (!selection || selection->positions.size() != 1)
+                node = &fresh;
+            else if (brace)
+                node = &node->cellAt(selection->positions[0]);
+            else
+                node = &made.emplace_back(values::indexValue(*node, args));
+        }
+        steps.push_back({suffix.kind, {}, std::move(args)});
     }
-    ValueArray inner = assignChain(element ? &*element : nullptr, chain, k + 1, std::move(rhs));
-    if (brace) {
-        ValueArray wrapped = ValueArray::cell(Dims{1, 1});
-        wrapped.setCellAt(0, std::move(inner));
-        inner = std::move(wrapped);
-    }
-    return values::assignIndexed(std::move(container), args, inner);
-}
-
-ValueArray Interpreter::assignField(const ValueArray* base, const std::string& field,
-                                    const std::vector<lang::Suffix>& chain, std::size_t k, ValueArray rhs) {
-    const bool fresh = base == nullptr || (base->is(ClassId::Double) && base->isEmpty());
-    ValueArray container = fresh ? ValueArray::structArray(Dims{1, 1}) : *base;
-    if (container.is(ClassId::Struct) && container.isEmpty()) container = values::blankLike(container, Dims{1, 1});
-    if (!container.is(ClassId::Struct) && !container.is(ClassId::Object)) {
-        except::throwMessage(NoFields(text::asciiToUtf16(container.className()), text::utf8ToUtf16(field)));
-    }
-    if (container.numel() != 1) except::throwMessage(StructArrayField(text::asciiToUtf16(container.dims().text())));
-    if (container.is(ClassId::Object)) {
-        std::optional<ValueArray> current;
-        if (k + 1 < chain.size()) current = ocos::getProperty(container, 0, field);
-        ValueArray inner = assignChain(current ? &*current : nullptr, chain, k + 1, std::move(rhs));
-        ocos::setProperty(container, 0, field, inner);
-        return container;
-    }
-    const ValueArray* existing = container.field(0, field);
-    std::optional<ValueArray> current;
-    if (existing != nullptr) current = *existing;
-    ValueArray inner = assignChain(current ? &*current : nullptr, chain, k + 1, std::move(rhs));
-    container.setField(0, field, std::move(inner));
-    return container;
+    return steps;
 }
 
 }  // namespace orrery::shell::eval

@@ -2,6 +2,7 @@
 // functions and built-ins, and displays results.
 #pragma once
 
+#include "shell/eval/place_assignment.hpp"
 #include "shell/eval/workspace.hpp"
 #include "shell/lang/ast.hpp"
 #include "shell/values/indexing.hpp"
@@ -77,10 +78,7 @@ private:
     void execAssign(const lang::Stmt& stmt);
     void execMultiAssign(const lang::Stmt& stmt);
     void assignTo(const lang::LValue& target, value::ValueArray rhs);
-    value::ValueArray assignChain(const value::ValueArray* base, const std::vector<lang::Suffix>& chain, std::size_t k,
-                                  value::ValueArray rhs);
-    value::ValueArray assignField(const value::ValueArray* base, const std::string& field,
-                                  const std::vector<lang::Suffix>& chain, std::size_t k, value::ValueArray rhs);
+    std::vector<AssignStep> planAssignment(const value::ValueArray& root, const std::vector<lang::Suffix>& chain);
 
     // expressions (expressions.cpp)
     value::ValueArray eval(const lang::Expr& expr);

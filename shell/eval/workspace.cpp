@@ -8,6 +8,11 @@ const value::ValueArray* Workspace::find(std::string_view name) const {
     return found == variables_.end() ? nullptr : &found->second;
 }
 
+value::ValueArray* Workspace::findMutable(std::string_view name) {
+    const auto found = variables_.find(name);
+    return found == variables_.end() ? nullptr : &found->second;
+}
+
 void Workspace::set(std::string_view name, value::ValueArray value) {
     variables_.insert_or_assign(std::string(name), std::move(value));
 }

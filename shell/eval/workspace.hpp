@@ -17,6 +17,8 @@ class Workspace {
 public:
     /// The variable's value, or null when there is no such variable.
     const value::ValueArray* find(std::string_view name) const;
+    /// The variable's value for changing where it lies, or null.
+    value::ValueArray* findMutable(std::string_view name);
     bool contains(std::string_view name) const { return find(name) != nullptr; }
     void set(std::string_view name, value::ValueArray value);
     /// Removes the variable if present.

@@ -8,6 +8,7 @@
 #include <orrery/text/text.hpp>
 
 #include <algorithm>
+#include <optional>
 
 namespace orrery::shell::values {
 namespace {
@@ -20,41 +21,57 @@ using value::ValueArray;
     except::throwMessage(AssignmentClass(text::asciiToUtf16(a.className()), text::asciiToUtf16(b.className())));
 }
 
-// The array and the value brought to one class for the assignment.
-void unifyClasses(ValueArray& a, ValueArray& b) {
-    if (a.isEmpty() && a.is(ClassId::Double)) {
-        a = blankLike(b, a.dims());
-        return;
-    }
+// b brought to the class the assignment stores, and the array converted to
+// that class when its own differs (nothing when it keeps its class). Nothing
+// of the array changes here, so a clash leaves it as it was.
+std::optional<ValueArray> unifyClasses(const ValueArray& a, ValueArray& b) {
+    if (a.isEmpty() && a.is(ClassId::Double)) return blankLike(b, a.dims());
     if (a.classId() == b.classId()) {
         if (a.is(ClassId::Object) && a.classInfo() != b.classInfo()) classClash(a, b);
-        return;
+        return std::nullopt;
     }
     if (isNumberLike(a) && isNumberLike(b)) {
         ClassId target = a.classId();
         if (a.is(ClassId::Logical) || (value::isIntegerClass(b.classId()) && !value::isIntegerClass(target)))
             target = b.classId();
-        a = convertTo(a, target);
         b = convertTo(b, target);
-        return;
+        if (target == a.classId()) return std::nullopt;
+        return convertTo(a, target);
     }
     if (a.is(ClassId::String) && isNumberLike(b)) {
         b = convertTo(b, ClassId::String);
-        if (b.numel() == 1) return;
+        if (b.numel() == 1) return std::nullopt;
     }
     classClash(a, b);
 }
 
-// The array with a new size, its elements kept at their subscripts.
-ValueArray resized(const ValueArray& a, const Dims& dims) {
-    if (a.dims() == dims) return a;
+// True when every element of an array of size `from` has the same linear
+// index in an array of size `to`: the sizes agree below the last dimension
+// longer than one.
+bool keepsPositions(const Dims& from, const Dims& to) {
+    std::size_t last = 0;
+    for (std::size_t k = 0; k < from.count(); ++k)
+        if (from[k] > 1) last = k;
+    for (std::size_t k = 0; k < last; ++k)
+        if (from[k] != to[k]) return false;
+    return true;
+}
+
+// The array given a new size, its elements kept at their subscripts: in its
+// own storage when their linear indices stay, else in a new array.
+void resize(ValueArray& a, const Dims& dims) {
+    if (a.dims() == dims) return;
+    if (a.isEmpty() || keepsPositions(a.dims(), dims)) {
+        a.resize(dims);
+        return;
+    }
     ValueArray result = blankLike(a, dims);
     for (std::size_t i = 0; i < a.numel(); ++i) {
         auto subscripts = subscriptsOf(i, a.dims());
         subscripts.resize(std::max(subscripts.size(), dims.count()), 0);
         copyElement(result, linearIndexOf(subscripts, dims), a, i);
     }
-    return result;
+    a = std::move(result);
 }
 
 // The size after a linear index reaches `needed` places.
@@ -140,18 +157,23 @@ ValueArray deleteSlices(const ValueArray& a, const std::vector<IndexArg>& args) 
 
 }  // namespace
 
-ValueArray assignIndexed(ValueArray a, const std::vector<IndexArg>& args, const ValueArray& b) {
+void assignIndexed(ValueArray& a, const std::vector<IndexArg>& args, const ValueArray& b) {
     const bool deletion = b.is(ClassId::Double) && b.dims() == Dims{0, 0};
-    if (deletion) return args.size() == 1 ? deleteLinear(a, args[0]) : deleteSlices(a, args);
+    if (deletion) {
+        a = args.size() == 1 ? deleteLinear(a, args[0]) : deleteSlices(a, args);
+        return;
+    }
     ValueArray source = b;
-    unifyClasses(a, source);
+    std::optional<ValueArray> converted = unifyClasses(a, source);
+    // Every check comes before the first change (a conversion keeps the size).
     const Target target = args.size() == 1 ? linearTarget(a, args[0]) : subscriptTarget(a, args, source);
     if (source.numel() != 1 && source.numel() != target.positions.size())
         except::throwMessage(AssignmentCount(source.numel(), target.positions.size()));
-    a = resized(a, target.dims);
+    checkElementCount(static_cast<double>(target.dims.numel()));
+    if (converted) a = std::move(*converted);
+    resize(a, target.dims);
     for (std::size_t i = 0; i < target.positions.size(); ++i)
         copyElement(a, target.positions[i], source, source.numel() == 1 ? 0 : i);
-    return a;
 }
 
 }  // namespace orrery::shell::values

@@ -42,7 +42,9 @@ value::ValueArray indexValue(const value::ValueArray& a, const std::vector<Index
 /// grows to take indices past its end (a linear index grows vectors only); its
 /// class follows the language's rules (an empty double takes b's class, a
 /// logical array takes a number's class, an integer value makes the array
-/// integer). b being the empty double [] deletes the selected elements.
-value::ValueArray assignIndexed(value::ValueArray a, const std::vector<IndexArg>& args, const value::ValueArray& b);
+/// integer). b being the empty double [] deletes the selected elements. The
+/// array changes in place (its data is copied only when shared) and is left
+/// as it was when an error is raised.
+void assignIndexed(value::ValueArray& a, const std::vector<IndexArg>& args, const value::ValueArray& b);
 
 }  // namespace orrery::shell::values

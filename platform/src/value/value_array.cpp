@@ -49,6 +49,13 @@ Store makeStore(ClassId id, std::size_t n) {
     return std::vector<double>(n);
 }
 
+// Grows with capacity to spare, so that repeated growth by one is amortised.
+template <class Container, class Fill>
+void resizeStore(Container& container, std::size_t n, const Fill& fill) {
+    if (n > container.capacity()) container.reserve(std::max(n, 2 * container.capacity()));
+    container.resize(n, fill);
+}
+
 template <class S>
 constexpr bool isNumericStore = false;
 template <class T>
@@ -173,6 +180,32 @@ std::string ValueArray::className() const {
 
 void ValueArray::reshape(Dims dims) {
     if (dims.numel() != numel()) except::throwMessage(except::host::BadDimensions());
+    dims_ = std::move(dims);
+}
+
+void ValueArray::resize(Dims dims) {
+    const std::size_t n = dims.numel();
+    std::visit(
+        [n](auto& store) {
+            using S = std::decay_t<decltype(store)>;
+            if constexpr (std::is_same_v<S, LogicalStore>) {
+                resizeStore(store.values, n, std::uint8_t{0});
+            } else if constexpr (std::is_same_v<S, std::u16string>) {
+                resizeStore(store, n, u'\0');
+            } else if constexpr (std::is_same_v<S, StringStore>) {
+                resizeStore(store.values, n, std::optional<std::u16string>());
+            } else if constexpr (std::is_same_v<S, CellStore>) {
+                resizeStore(store.values, n, ValueArray());
+            } else if constexpr (std::is_same_v<S, StructStore>) {
+                for (auto& values : store.values) resizeStore(values, n, std::optional<ValueArray>());
+                store.elements = n;
+            } else if constexpr (std::is_same_v<S, ObjectStore>) {
+                resizeStore(store.instances, n, std::shared_ptr<ocos::COSObject>());
+            } else {
+                resizeStore(store, n, typename S::value_type{});
+            }
+        },
+        mutate().store);
     dims_ = std::move(dims);
 }
 
@@ -311,6 +344,12 @@ void ValueArray::setCellAt(std::size_t i, ValueArray value) {
     std::get<CellStore>(mutate().store).values[i] = std::move(value);
 }
 
+ValueArray& ValueArray::mutableCellAt(std::size_t i) {
+    requireClass(ClassId::Cell);
+    checkIndex(i);
+    return std::get<CellStore>(mutate().store).values[i];
+}
+
 // ---- structs -------------------------------------------------------------------
 
 const std::vector<std::string>& ValueArray::fieldNames() const {
@@ -345,6 +384,13 @@ void ValueArray::setField(std::size_t i, std::string_view name, ValueArray value
     auto& store = std::get<StructStore>(mutate().store);
     const auto found = std::find(store.fieldNames.begin(), store.fieldNames.end(), name);
     store.values[static_cast<std::size_t>(found - store.fieldNames.begin())][i] = std::move(value);
+}
+
+ValueArray* ValueArray::mutableField(std::size_t i, std::string_view name) {
+    if (field(i, name) == nullptr) return nullptr;
+    auto& store = std::get<StructStore>(mutate().store);
+    const auto found = std::find(store.fieldNames.begin(), store.fieldNames.end(), name);
+    return &*store.values[static_cast<std::size_t>(found - store.fieldNames.begin())][i];
 }
 
 // ---- objects -------------------------------------------------------------------

@@ -73,6 +73,11 @@ public:
     bool isNumeric() const noexcept { return isNumericClass(classId_); }
     /// Changes the size without changing the elements; the element count must agree.
     void reshape(Dims dims);
+    /// Changes the size keeping every element at its linear index (the caller
+    /// makes sure that is where it belongs); added elements are blank: zeros,
+    /// missing strings, empty cells, unset fields, invalid objects. Storage
+    /// grows geometrically, so growing by one element at a time is amortised.
+    void resize(Dims dims);
 
     // ---- numbers, logicals and chars ------------------------------------------
     /// Element i of a numeric, logical or char array as a double.
@@ -108,6 +113,9 @@ public:
     // ---- cells ----------------------------------------------------------------
     const ValueArray& cellAt(std::size_t i) const;
     void setCellAt(std::size_t i, ValueArray value);
+    /// Element i for changing in place (the cell's data made its own first);
+    /// valid until this array is resized, copied from or destroyed.
+    ValueArray& mutableCellAt(std::size_t i);
 
     // ---- structs --------------------------------------------------------------
     const std::vector<std::string>& fieldNames() const;
@@ -118,6 +126,9 @@ public:
     const ValueArray* field(std::size_t i, std::string_view name) const;
     /// Sets the field of element i, adding the field when absent.
     void setField(std::size_t i, std::string_view name, ValueArray value);
+    /// The field of element i for changing in place, or null when absent or
+    /// unset; valid as mutableCellAt's result.
+    ValueArray* mutableField(std::size_t i, std::string_view name);
 
     // ---- objects --------------------------------------------------------------
     const std::shared_ptr<const ocos::COSClassInfo>& classInfo() const;
