@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <string_view>
 
 namespace orrery::shell::startup {
 namespace {
@@ -72,8 +73,12 @@ RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file
         std::ostringstream content;
         content << in.rdbuf();
         if (!in || std::filesystem::is_directory(file)) except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
+        std::string source = content.str();
+        // an editor's UTF-8 byte-order mark is not part of the program
+        constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+        if (source.starts_with(byteOrderMark)) source.erase(0, byteOrderMark.size());
         const std::u16string name = text::utf8ToUtf16(std::filesystem::path(file).stem().string());
-        runProgram(interpreter, content.str(), text::utf8ToUtf16(file), name);
+        runProgram(interpreter, source, text::utf8ToUtf16(file), name);
     });
 }
 
