@@ -1,6 +1,7 @@
 // The orrery command: runs a script file, text given with -e, or the prompt,
 // with the diagnostic module loaded.
 #include "shell/builtins/host_builtins.hpp"
+#include "shell/eval/exit_request.hpp"
 #include "shell/eval/interpreter.hpp"
 #include "shell/prompt/prompt.hpp"
 #include "shell/startup/command_line.hpp"
@@ -34,15 +35,21 @@ int run(const Options& options) {
     shell::setVariableQuery([&interpreter](std::string_view name) { return interpreter.isVariable(name); });
     interpreter.baseWorkspace().set("argv", argumentCell(options.scriptArgs));
     auto outcome = shell::startup::RunOutcome::Completed;
-    switch (options.mode) {
-        case Options::Mode::Script: outcome = shell::startup::runScriptFile(interpreter, options.script); break;
-        case Options::Mode::Text:
-            outcome = shell::startup::runSource(interpreter, options.text, u"<command>", u"");
-            break;
-        default: shell::prompt::runPrompt(interpreter); break;
+    int status = 0;
+    try {
+        switch (options.mode) {
+            case Options::Mode::Script: outcome = shell::startup::runScriptFile(interpreter, options.script); break;
+            case Options::Mode::Text:
+                outcome = shell::startup::runSource(interpreter, options.text, u"<command>", u"");
+                break;
+            default: shell::prompt::runPrompt(interpreter); break;
+        }
+        status = shell::startup::exitStatus(outcome);
+    } catch (const shell::eval::ExitRequest& request) {
+        status = request.status;
     }
     shell::setVariableQuery({});
-    return shell::startup::exitStatus(outcome);
+    return status;
 }
 
 }  // namespace

@@ -4,7 +4,8 @@
 #
 # Beside NAME.orr and NAME.out a test may have:
 #   NAME.args    the command line, one argument per line (no ";"), instead of "NAME.orr"
-#                (@SCRIPT@ stands for the script's file name)
+#                (@SCRIPT@ stands for the script's file name); when it holds "-"
+#                the script is given on standard input
 #   NAME.env     environment settings, one VAR=VALUE per line (@BIN_DIR@ stands
 #                for the folder of the orrery program)
 #   NAME.status  the expected exit status
@@ -31,6 +32,10 @@ set(arguments ${script_file})
 if(EXISTS ${folder}/${name}.args)
   read_lines(${folder}/${name}.args arguments)
 endif()
+set(input "")
+if("-" IN_LIST arguments)
+  set(input INPUT_FILE ${SCRIPT})
+endif()
 set(environment "")
 if(EXISTS ${folder}/${name}.env)
   read_lines(${folder}/${name}.env environment)
@@ -39,6 +44,7 @@ endif()
 execute_process(
   COMMAND ${CMAKE_COMMAND} -E env ${environment} ${ORRERY} ${arguments}
   WORKING_DIRECTORY ${folder}
+  ${input}
   OUTPUT_VARIABLE actual
   ERROR_VARIABLE actual
   RESULT_VARIABLE status)

@@ -8,7 +8,9 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
-#include <fstream>
+#include <fcntl.h>
+
+#include <cerrno>
 #include <utility>
 
 namespace orrery::lang::diagnostic {
@@ -16,15 +18,12 @@ namespace orrery::lang::diagnostic {
 namespace ids = orrery::diagnostic::ids;
 
 std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path) {
-    auto file = std::make_unique<std::ofstream>();
-    file->exceptions(std::ios_base::failbit | std::ios_base::badbit);
-    raisingStreamFailureAs<ids::LogFileOpenFileAppend>(
-        path, [&] { file->open(text::utf16ToUtf8(path), std::ios_base::in | std::ios_base::out); });
+    LogFileDescriptor file(::open(text::utf16ToUtf8(path).c_str(), O_RDWR | O_CLOEXEC));
+    if (!file.isOpen()) except::throwMessage(ids::LogFileOpenFileAppend(path, systemErrorText(errno)));
     const std::uint64_t footerStart = findLogEnd(path);
     // The reader accepts a lone "warning" element as a document; without a closing
     // "log" tag there is nowhere to write, and writing at its start would destroy it.
     if (footerStart == 0) except::throwMessage(ids::LogFileFileSeek(path, u"no closing </log> tag"));
-    raisingStreamFailureAs<ids::LogFileFileSeek>(path, [&] { file->seekp(static_cast<std::streamoff>(footerStart)); });
     return std::make_shared<LogOutputStream>(path, std::move(file), footerStart);
 }
 

@@ -5,10 +5,14 @@
 #include "diagnostic/log/log_file_ids.hpp"
 #include "diagnostic/log/log_stream_failure.hpp"
 
+#include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 namespace orrery::lang::diagnostic {
@@ -16,38 +20,38 @@ namespace orrery::lang::diagnostic {
 namespace ids = orrery::diagnostic::ids;
 namespace {
 
-std::streamsize sizeOf(std::string_view bytes) { return static_cast<std::streamsize>(bytes.size()); }
+// All of bytes at offset, however many writes the system takes; a failure is
+// "FileWrite" with the system's text for the error.
+void writeAt(const LogFileDescriptor& file, std::uint64_t offset, std::string_view bytes, const std::u16string& path) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::pwrite(file.get(), bytes.data(), bytes.size(), static_cast<off_t>(offset));
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) except::throwMessage(ids::LogFileFileWrite(path, systemErrorText(written < 0 ? errno : EIO)));
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+        offset += static_cast<std::uint64_t>(written);
+    }
+}
 
+// A new log is a complete empty document at once: header and footer.
 std::shared_ptr<LogOutputStream> createLog(const std::u16string& path) {
-    auto file = std::make_unique<std::ofstream>();
-    file->exceptions(std::ios_base::failbit | std::ios_base::badbit);
-    raisingStreamFailureAs<ids::LogFileOpenFileWrite>(
-        path, [&] { file->open(text::utf16ToUtf8(path), std::ios_base::out | std::ios_base::trunc); });
-    raisingStreamFailureAs<ids::LogFileFileWrite>(path, [&] { file->write(kLogHeader.data(), sizeOf(kLogHeader)); });
-    auto log = std::make_shared<LogOutputStream>(path, std::move(file), kLogHeader.size());
-    log->writeFooter();
-    return log;
+    LogFileDescriptor file(::open(text::utf16ToUtf8(path).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (!file.isOpen()) except::throwMessage(ids::LogFileOpenFileWrite(path, systemErrorText(errno)));
+    std::string document(kLogHeader);
+    document += kLogFooter;
+    writeAt(file, 0, document, path);
+    return std::make_shared<LogOutputStream>(path, std::move(file), kLogHeader.size());
 }
 
 }  // namespace
 
-LogOutputStream::LogOutputStream(std::u16string path, std::unique_ptr<std::ostream> stream, std::uint64_t footerStart)
-    : path_(std::move(path)), stream_(std::move(stream)), footerStart_(footerStart) {
-    stream_->exceptions(std::ios_base::failbit | std::ios_base::badbit);
-}
+LogOutputStream::LogOutputStream(std::u16string path, LogFileDescriptor file, std::uint64_t footerStart)
+    : path_(std::move(path)), file_(std::move(file)), footerStart_(footerStart) {}
 
 void LogOutputStream::writeElement(std::string_view element) {
-    raisingStreamFailureAs<ids::LogFileFileWrite>(path_, [&] { stream_->write(element.data(), sizeOf(element)); });
+    pending_.assign(element);
+    pending_ += kLogFooter;
+    writeAt(file_, footerStart_, pending_, path_);
     footerStart_ += element.size();
-    writeFooter();
-}
-
-void LogOutputStream::writeFooter() {
-    raisingStreamFailureAs<ids::LogFileFileWrite>(path_, [&] {
-        stream_->write(kLogFooter.data(), sizeOf(kLogFooter));
-        stream_->flush();
-        stream_->seekp(static_cast<std::streamoff>(footerStart_));
-    });
 }
 
 std::shared_ptr<LogOutputStream> openLogForWriting(const std::u16string& path) {

@@ -1,42 +1,38 @@
-// An open warning log file: the output stream that stands at the file's footer,
-// where the next warning element goes.
+// An open warning log file and the position of its footer, where the next
+// warning element goes.
 #pragma once
+
+#include "diagnostic/log/log_file_descriptor.hpp"
 
 #include <cstdint>
 #include <memory>
-#include <ostream>
 #include <string>
 #include <string_view>
 
 namespace orrery::lang::diagnostic {
 
 /// A warning log open for writing. Between warnings the file is a complete
-/// document and the output position stands at the first byte of its footer.
+/// document whose footer starts at a known offset.
 class LogOutputStream {
 public:
-    /// Takes over a stream that stands at footerStart; sets its exception mask to
-    /// failure and bad state, so that every failed operation raises.
-    LogOutputStream(std::u16string path, std::unique_ptr<std::ostream> stream, std::uint64_t footerStart);
+    /// Takes over an open file whose footer starts at footerStart.
+    LogOutputStream(std::u16string path, LogFileDescriptor file, std::uint64_t footerStart);
 
-    /// Writes the element (UTF-8) over the footer, writes the footer after it,
-    /// flushes, and stands again at the footer. Raises
-    /// "ORRERY:warning:LogFile:FileWrite" with the path and the failure's text; a
-    /// part of the element may then stand in the file.
+    /// Writes the element (UTF-8) followed by the footer, in one positioned write
+    /// at the footer's start, so the file grows by the element at once and keeps
+    /// its footer. Raises "ORRERY:warning:LogFile:FileWrite" with the path and the
+    /// system's text for the error; a part of the element may then stand in the
+    /// file, before a part of the footer.
     void writeElement(std::string_view element);
-
-    /// Writes the footer at the output position, flushes, and stands again at it.
-    /// Raises "ORRERY:warning:LogFile:FileWrite".
-    void writeFooter();
 
     /// The path the log was opened with.
     const std::u16string& path() const noexcept { return path_; }
 
 private:
     std::u16string path_;
-    std::unique_ptr<std::ostream> stream_;
-    // Counted, not asked of the stream: the file is written unformatted, byte for
-    // byte, and asking the stream for its position costs a system call.
+    LogFileDescriptor file_;
     std::uint64_t footerStart_;
+    std::string pending_;  // element and footer, assembled for the one write
 };
 
 /// Opens the log file at path (a name made by normaliseLogFileName) for writing.

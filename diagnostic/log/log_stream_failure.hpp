@@ -11,10 +11,15 @@
 
 namespace orrery::lang::diagnostic {
 
+/// The system's description of an error (an errno value).
+inline std::u16string systemErrorText(int error) {
+    return text::utf8ToUtf16Lossy(std::generic_category().message(error));
+}
+
 /// The text of a stream failure: the system's description of the error that the
 /// failed operation met (error, an errno value), or else the stream's own text.
 inline std::u16string streamFailureText(const std::ios_base::failure& failure, int error) {
-    return text::utf8ToUtf16Lossy(error != 0 ? std::generic_category().message(error) : std::string(failure.what()));
+    return error != 0 ? systemErrorText(error) : text::utf8ToUtf16Lossy(failure.what());
 }
 
 /// Runs operation on a stream whose exception mask is set; a stream failure is

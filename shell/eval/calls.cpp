@@ -81,12 +81,13 @@ private:
 }  // namespace
 
 bool Interpreter::isCallable(const std::string& name, const Values& args) const {
-    if (functions_.contains(name) || interp::isFunction(name)) return true;
+    if (functions_.contains(name) || interp::isFunction(name) || isSessionCommand(name)) return true;
     const auto inputs = pointersTo(args);
     return ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
 }
 
 Interpreter::Values Interpreter::callFunction(const std::string& name, const Values& args, int nargout) {
+    if (isSessionCommand(name)) return callSessionCommand(name, args, nargout);
     const auto inputs = pointersTo(args);
     const bool method = ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
     if (!method) {

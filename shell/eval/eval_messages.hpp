@@ -28,5 +28,6 @@ ORRERY_MESSAGE_KEY(SwitchValue, "ORRERY:shell:switchValue");
 /// {0}: class.
 ORRERY_MESSAGE_KEY(ForOverClass, "ORRERY:shell:forOverClass");
 ORRERY_MESSAGE_KEY(OutOfMemory, "ORRERY:shell:outOfMemory");
+ORRERY_MESSAGE_KEY(Interrupted, "ORRERY:shell:interrupted");
 
 }  // namespace orrery::shell::eval

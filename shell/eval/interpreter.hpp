@@ -108,6 +108,10 @@ private:
     Values callBuiltin(const std::string& name, const Values& args, int nargout);
     Values callNamespaceFunction(const std::string& path, const Values& args, int nargout);
 
+    // exit, quit, clear, who (session_commands.cpp)
+    static bool isSessionCommand(std::string_view name);
+    Values callSessionCommand(const std::string& name, const Values& args, int nargout);
+
     // display
     void show(std::string_view name, const value::ValueArray& v);
 

@@ -4,6 +4,7 @@
 #include "shell/display.hpp"
 #include "shell/eval/eval_messages.hpp"
 #include "shell/eval/exception_object.hpp"
+#include "shell/eval/interrupt.hpp"
 #include "shell/eval/stack_budget.hpp"
 #include "shell/eval/user_error.hpp"
 #include "shell/values/elements.hpp"
@@ -47,6 +48,7 @@ Interpreter::Flow Interpreter::execBlock(const lang::Block& block) {
 Interpreter::Flow Interpreter::exec(const lang::Stmt& stmt) {
     try {
         StackBudget::check();
+        checkInterrupt();
         interp::setCurrentLine(stmt.pos.line);
         return execKind(stmt);
     } catch (...) {
@@ -88,6 +90,7 @@ Interpreter::Flow Interpreter::execFor(const lang::Stmt& stmt) {
         ValueArray column = values::blankLike(range, value::Dims{rows, 1});
         for (std::size_t r = 0; r < rows; ++r) values::copyElement(column, r, range, c * rows + r);
         current_->set(stmt.name, std::move(column));
+        checkInterrupt();
         const Flow flow = execBlock(stmt.body);
         if (flow == Flow::Break) break;
         if (flow == Flow::Return) return flow;
@@ -97,6 +100,7 @@ Interpreter::Flow Interpreter::execFor(const lang::Stmt& stmt) {
 
 Interpreter::Flow Interpreter::execWhile(const lang::Stmt& stmt) {
     while (values::isTrue(eval(*stmt.expr))) {
+        checkInterrupt();
         const Flow flow = execBlock(stmt.body);
         if (flow == Flow::Break) break;
         if (flow == Flow::Return) return flow;
@@ -130,11 +134,12 @@ Interpreter::Flow Interpreter::execSwitch(const lang::Stmt& stmt) {
 
 Interpreter::Flow Interpreter::execTry(const lang::Stmt& stmt) {
     // Statements have turned every failure into the language's error by now;
-    // internal faults pass on to the top level.
+    // internal faults and interruptions pass on to the top level.
     std::optional<except::QException> caught;
     try {
         return execBlock(stmt.body);
     } catch (const except::QException& error) {
+        if (isInterruption(error)) throw;
         caught = error;
     }
     recordLastError(*caught);

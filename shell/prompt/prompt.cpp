@@ -1,14 +1,21 @@
 // The prompt on libedit's line editor.
 #include "shell/prompt/prompt.hpp"
 
+#include "shell/eval/interrupt.hpp"
 #include "shell/lang/parser.hpp"
+#include "shell/prompt/interrupt_signal.hpp"
+#include "shell/prompt/terminal_input.hpp"
 #include "shell/startup/session.hpp"
 
 #include <orrery/console/console_sink.hpp>
 
 #include <readline.h>
 
+#include <unistd.h>
+
+#include <clocale>
 #include <cstdlib>
+#include <iostream>
 #include <memory>
 #include <string>
 
@@ -24,19 +31,27 @@ struct FreeLine {
 };
 using Line = std::unique_ptr<char, FreeLine>;
 
-/// Loads the history on construction and saves it on destruction.
+/// The line editor with the history loaded; each line added is saved at once,
+/// so a session that ends abruptly keeps what was typed.
 class History {
 public:
     History() : file_(historyFile()) {
+        // keys come through our reader (UTF-8, Ctrl-C); signals stay ours
+        rl_getc_function = readTerminalCharacter;
+        rl_catch_signals = 0;
         using_history();
         stifle_history(kHistoryLength);
         if (!file_.empty()) read_history(file_.c_str());
     }
-    ~History() {
-        if (!file_.empty()) write_history(file_.c_str());
-    }
     History(const History&) = delete;
     History& operator=(const History&) = delete;
+    ~History() = default;
+
+    void add(const std::string& line) const {
+        if (line.find_first_not_of(" \t") == std::string::npos) return;
+        add_history(line.c_str());
+        if (!file_.empty()) write_history(file_.c_str());
+    }
 
 private:
     std::filesystem::path file_;
@@ -50,6 +65,28 @@ bool isExitWord(const std::string& line) {
     return word == "exit" || word == "quit";
 }
 
+/// Joins lines until they make complete statements, then runs them.
+class LineRunner {
+public:
+    explicit LineRunner(eval::Interpreter& interpreter) : interpreter_(interpreter) {}
+
+    /// Takes one line; false when it is `exit` or `quit` outside a block.
+    bool feed(const std::string& text) {
+        if (pending_.empty() && isExitWord(text)) return false;
+        pending_ += text + "\n";
+        if (lang::needsMoreInput(pending_)) return true;
+        startup::runSource(interpreter_, pending_, u"<prompt>", u"");
+        pending_.clear();
+        return true;
+    }
+    bool midStatement() const { return !pending_.empty(); }
+    void drop() { pending_.clear(); }
+
+private:
+    eval::Interpreter& interpreter_;
+    std::string pending_;
+};
+
 }  // namespace
 
 std::filesystem::path historyFile() {
@@ -59,18 +96,29 @@ std::filesystem::path historyFile() {
 }
 
 void runPrompt(eval::Interpreter& interpreter) {
+    LineRunner runner(interpreter);
+    if (isatty(STDIN_FILENO) == 0) {  // piped input: plain lines, kept byte for byte
+        std::string text;
+        while (std::getline(std::cin, text) && runner.feed(text)) {
+        }
+        console::consoleWrite(console::ConsoleStream::Output, "\n");
+        return;
+    }
+    std::setlocale(LC_CTYPE, "");  // the line editor reads and returns text in the terminal's encoding
     const History history;
-    std::string pending;
+    const InterruptSignal interruptSignal;
     for (;;) {
-        const Line line(readline(pending.empty() ? kPrompt : kContinuationPrompt));
+        eval::takeInterrupt();  // a Ctrl-C that came after the last statement's check
+        const Line line(readline(runner.midStatement() ? kContinuationPrompt : kPrompt));
+        if (eval::takeInterrupt()) {  // drop the half-typed line or block
+            runner.drop();
+            console::consoleWrite(console::ConsoleStream::Output, "\n");
+            continue;
+        }
         if (!line) break;
         const std::string text(line.get());
-        if (text.find_first_not_of(" \t") != std::string::npos) add_history(line.get());
-        if (pending.empty() && isExitWord(text)) break;
-        pending += text + "\n";
-        if (lang::needsMoreInput(pending)) continue;
-        startup::runSource(interpreter, pending, u"<prompt>", u"");
-        pending.clear();
+        history.add(text);
+        if (!runner.feed(text)) break;
     }
     console::consoleWrite(console::ConsoleStream::Output, "\n");
 }

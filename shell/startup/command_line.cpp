@@ -21,7 +21,7 @@ Options parseCommandLine(const std::vector<std::string>& args) {
         options.mode = Options::Mode::Text;
         options.text = args[1];
         options.scriptArgs.assign(args.begin() + 2, args.end());
-    } else if (first.size() > 1 && first[0] == '-') {
+    } else if (first.size() > 1 && first[0] == '-') {  // a lone "-" is the script on standard input
         except::throwMessage(UnknownOption(text::utf8ToUtf16(first)));
     } else {
         options.mode = Options::Mode::Script;
@@ -32,17 +32,18 @@ Options parseCommandLine(const std::vector<std::string>& args) {
 }
 
 std::string usageText() {
-    return "Usage: orrery [FILE.orr [ARGS...] | -e CODE [ARGS...] | --help | --version]\n"
+    return "Usage: orrery [FILE.orr [ARGS...] | - [ARGS...] | -e CODE [ARGS...] | --help | --version]\n"
            "\n"
-           "Runs a script file, runs the code given with -e, or, with no arguments,\n"
-           "opens an interactive prompt with line editing and history (~/.orrery_history).\n"
+           "Runs a script file (- reads it from standard input), runs the code given\n"
+           "with -e, or, with no arguments, opens an interactive prompt with line\n"
+           "editing and history (~/.orrery_history).\n"
            "Any ARGS are given to the script as the cell array argv.\n"
            "\n"
            "The diagnostic module libdiagnostic.so is loaded from beside the program,\n"
            "or from ORRERY_MODULE_PATH (the module itself or the folder holding it).\n"
            "\n"
            "Exit status: 0, or 1 when an error was not caught (or the module could not\n"
-           "be loaded), or 70 after an internal error.\n";
+           "be loaded), or 70 after an internal error; exit(N) and quit(N) end with N.\n";
 }
 
 std::string versionText() { return "orrery 0.1.0 (diagnostic module shell)\n"; }

@@ -1,6 +1,7 @@
 // Top-level runs of source text and error reports.
 #include "shell/startup/session.hpp"
 
+#include "shell/eval/exit_request.hpp"
 #include "shell/eval/user_error.hpp"
 #include "shell/lang/parser.hpp"
 #include "shell/startup/startup_messages.hpp"
@@ -11,6 +12,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 #include <string_view>
 
@@ -54,6 +56,8 @@ RunOutcome runAtTopLevel(const std::function<void()>& body) {
     } catch (const except::QException& error) {
         reportError(error);
         return RunOutcome::UserError;
+    } catch (const eval::ExitRequest&) {
+        throw;
     } catch (const std::exception& fault) {
         reportInternalError(fault.what());
     } catch (...) {
@@ -69,8 +73,13 @@ RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, co
 
 RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file) {
     return runAtTopLevel([&] {
-        std::ifstream in(file, std::ios::binary);
         std::ostringstream content;
+        if (file == kStandardInput) {
+            content << std::cin.rdbuf();
+            runProgram(interpreter, content.str(), u"<stdin>", u"stdin");
+            return;
+        }
+        std::ifstream in(file, std::ios::binary);
         content << in.rdbuf();
         if (!in || std::filesystem::is_directory(file)) except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
         std::string source = content.str();

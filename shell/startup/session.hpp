@@ -18,7 +18,7 @@ enum class RunOutcome { Completed, UserError, InternalFault };
 /// after an internal fault.
 int exitStatus(RunOutcome outcome);
 
-/// Runs body at the top level. An error that escapes it is recorded as the
+/// Runs body at the top level. eval::ExitRequest passes through. An error that escapes it is recorded as the
 /// last error and printed on standard error ("Error: ..."); an internal fault
 /// is printed as "Internal error: ..." and recorded nowhere. Either way the
 /// session can go on.
@@ -29,8 +29,12 @@ RunOutcome runAtTopLevel(const std::function<void()>& body);
 RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,
                      const std::u16string& frameName);
 
+/// The script name that stands for standard input.
+inline constexpr std::string_view kStandardInput = "-";
+
 /// Reads the script file and runs it in a frame named after the file (its
-/// name without folder and extension).
+/// name without folder and extension); "-" reads the script from standard
+/// input and runs it in a frame named "stdin".
 RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file);
 
 }  // namespace orrery::shell::startup

@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
 # Drives the orrery prompt through a pseudo-terminal (tmux): results show, an
 # error is reported and the session goes on, a block typed over several lines
-# runs once complete, `exit` ends the session and the history file is written.
+# runs once complete, each line reaches the history file as it is entered,
+# Ctrl-C stops a loop (even inside try) and drops a half-typed line or block
+# without ending the session, text typed or piped in keeps its UTF-8
+# characters, and `exit` ends it.
 # Exits 77 (skipped) when tmux is not installed.
 set -euo pipefail
 
@@ -20,6 +23,9 @@ cleanup() {
 trap cleanup EXIT
 
 screen() { tmux -L "$socket" capture-pane -p -t prompt -S -100; }
+# keys typed ahead of Ctrl-C may be flushed by the terminal: let each settle
+ctrl_c() { tmux -L "$socket" send-keys -t prompt C-c; sleep 0.3; }
+type_only() { tmux -L "$socket" send-keys -t prompt -l "$1"; }
 send() { tmux -L "$socket" send-keys -t prompt -l "$1"; tmux -L "$socket" send-keys -t prompt Enter; }
 wait_for() {
   for _ in $(seq 1 100); do
@@ -32,8 +38,14 @@ wait_for() {
   exit 1
 }
 
-tmux -L "$socket" -f /dev/null new-session -d -s prompt -x 120 -y 50 \
-  "env HOME='$work' '$orrery'; echo SESSION-ENDED status=\$?; sleep 60"
+piped=$(printf "disp(['<' '\xc3\xa9\xe6\x97\xa5' '>'])\n" | LC_ALL=C.UTF-8 "$orrery")
+if [[ "$piped" != $'<\xc3\xa9\xe6\x97\xa5>' ]]; then
+  echo "FAIL: piped text lost its characters: $piped"
+  exit 1
+fi
+
+tmux -L "$socket" -u -f /dev/null new-session -d -s prompt -x 120 -y 50 \
+  "env HOME='$work' LC_ALL=C.UTF-8 '$orrery'; echo SESSION-ENDED status=\$?; sleep 60"
 
 wait_for '>>'
 send 'x = 41'
@@ -46,12 +58,31 @@ send 'for k = 1:2'
 send 'disp(k * 10)'
 send 'end'
 wait_for '20'
-send 'exit'
-wait_for 'SESSION-ENDED status=0'
-
 # libedit writes blanks in the history file as \040
 if ! grep -qE 'y( |\\040)=( |\\040)x' "$work/.orrery_history"; then
   echo "FAIL: the history file does not hold the lines typed"
   exit 1
 fi
+
+send 'try, while true, end, catch, disp(99), end'
+sleep 0.3
+ctrl_c
+wait_for 'Error: Interrupted'
+type_only 'x = 1000'
+wait_for '>> x = 1000'
+ctrl_c
+send 'for k = 1:2'
+wait_for '..'
+ctrl_c
+send 'disp(x + 2)'
+wait_for '43'
+send "disp(['<' 'é日本' '>'])"
+wait_for '<é日本>'
+if screen | grep -qE '^(99|1000)$'; then
+  echo "FAIL: try caught the interruption, or a dropped line ran"
+  screen
+  exit 1
+fi
+send 'exit'
+wait_for 'SESSION-ENDED status=0'
 echo "prompt test passed"
