@@ -1,6 +1,7 @@
 // Vectors along one dimension of an array.
 #include "shell/builtins/array_slices.hpp"
 
+#include <algorithm>
 #include <vector>
 
 namespace orrery::shell::builtins {
@@ -9,10 +10,9 @@ Slices slicesAlong(const value::Dims& dims, std::size_t dim) {
     Slices slices;
     slices.length = dims[dim];
     slices.stride = 1;
-    for (std::size_t d = 0; d < dim; ++d) slices.stride *= dims[d];
+    for (std::size_t d = 0; d < std::min(dim, dims.count()); ++d) slices.stride *= dims[d];
     std::vector<std::size_t> sizes = dims.sizes();
-    if (sizes.size() <= dim) sizes.resize(dim + 1, 1);
-    sizes[dim] = 1;
+    if (dim < sizes.size()) sizes[dim] = 1;
     slices.reduced = value::Dims(std::move(sizes));
     slices.count = slices.reduced.numel();
     return slices;

@@ -2,6 +2,7 @@
 #include "shell/builtins/builtin_support.hpp"
 
 #include "shell/builtins/builtin_messages.hpp"
+#include "shell/values/elements.hpp"
 
 #include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
@@ -19,8 +20,18 @@ bool isIntegerValued(double x) { return std::isfinite(x) && x == std::floor(x); 
 
 // A size entry: an integer (negative counts as 0); NaN, Inf and fractions fail.
 std::size_t sizeEntry(double x, std::string_view function) {
-    if (!isIntegerValued(x)) except::throwMessage(messages::BadSize(wide(function)));
-    return x < 0 ? 0 : static_cast<std::size_t>(x);
+    if (isIntegerValued(x) && x < 0) return 0;
+    const auto size = values::wholeCount(x);
+    if (!size) except::throwMessage(messages::BadSize(wide(function)));
+    return *size;
+}
+
+// The sizes as an array size, refused when the array would be too large.
+value::Dims arraySize(std::vector<std::size_t> sizes) {
+    double total = 1;
+    for (std::size_t size : sizes) total *= static_cast<double>(size);
+    values::checkElementCount(total);
+    return value::Dims(std::move(sizes));
 }
 
 bool isSizeValue(const ValueArray& v) {
@@ -41,9 +52,9 @@ std::string textArgumentUtf8(const ValueArray& argument, std::string_view functi
 std::size_t dimensionArgument(const ValueArray& argument, std::string_view function) {
     if (!argument.isScalar() || !(argument.isNumeric() || argument.is(ClassId::Logical)))
         except::throwMessage(messages::BadDimension(wide(function)));
-    const double x = argument.realAt(0);
-    if (!isIntegerValued(x) || x < 1) except::throwMessage(messages::BadDimension(wide(function)));
-    return static_cast<std::size_t>(x) - 1;
+    const auto dim = values::wholeCount(argument.realAt(0));
+    if (!dim || *dim < 1) except::throwMessage(messages::BadDimension(wide(function)));
+    return *dim - 1;
 }
 
 value::Dims sizeArguments(Arguments arguments, std::string_view function) {
@@ -54,20 +65,20 @@ value::Dims sizeArguments(Arguments arguments, std::string_view function) {
         const ValueArray& a = *arguments[0];
         if (a.isScalar()) {
             const std::size_t n = sizeEntry(a.realAt(0), function);
-            return value::Dims{n, n};
+            return arraySize({n, n});
         }
         if (a.isEmpty()) return value::Dims{0, 0};
         if (a.dims().rows() != 1) except::throwMessage(messages::BadSize(wide(function)));
         std::vector<std::size_t> sizes;
         for (std::size_t i = 0; i < a.numel(); ++i) sizes.push_back(sizeEntry(a.realAt(i), function));
-        return value::Dims(std::move(sizes));
+        return arraySize(std::move(sizes));
     }
     std::vector<std::size_t> sizes;
     for (const ValueArray* a : arguments) {
         if (!a->isScalar()) except::throwMessage(messages::BadSize(wide(function)));
         sizes.push_back(sizeEntry(a->realAt(0), function));
     }
-    return value::Dims(std::move(sizes));
+    return arraySize(std::move(sizes));
 }
 
 std::optional<std::string> takeTrailingText(Arguments& arguments) {

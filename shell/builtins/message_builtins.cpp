@@ -31,6 +31,8 @@ void bnMessage(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
         except::throwMessage(messages::UnknownMessage(text::utf8ToUtf16(content.identifier)));
     for (const ValueArray* argument : argumentsOf(nrhs, prhs).subspan(1))
         content.arguments.push_back(messageArgument(*argument));
+    // arguments that do not fit the text are refused here, not when it is shown
+    static_cast<void>(content.text());
     plhs[0] = makeValue(ocos::makeMessageObject(std::move(content)));
 }
 

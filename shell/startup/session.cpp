@@ -14,6 +14,7 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <string_view>
 
 namespace orrery::shell::startup {
 namespace {
@@ -72,17 +73,22 @@ RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, co
 
 RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file) {
     return runAtTopLevel([&] {
+        const bool standardInput = file == kStandardInput;
         std::ostringstream content;
-        if (file == kStandardInput) {
+        if (standardInput) {
             content << std::cin.rdbuf();
-            runProgram(interpreter, content.str(), u"<stdin>", u"stdin");
-            return;
+        } else {
+            std::ifstream in(file, std::ios::binary);
+            content << in.rdbuf();
+            if (!in || std::filesystem::is_directory(file)) except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
         }
-        std::ifstream in(file, std::ios::binary);
-        content << in.rdbuf();
-        if (!in || std::filesystem::is_directory(file)) except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
+        std::string source = content.str();
+        // an editor's UTF-8 byte-order mark is not part of the program
+        constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+        if (source.starts_with(byteOrderMark)) source.erase(0, byteOrderMark.size());
+        if (standardInput) return runProgram(interpreter, source, u"<stdin>", u"stdin");
         const std::u16string name = text::utf8ToUtf16(std::filesystem::path(file).stem().string());
-        runProgram(interpreter, content.str(), text::utf8ToUtf16(file), name);
+        runProgram(interpreter, source, text::utf8ToUtf16(file), name);
     });
 }
 

@@ -87,12 +87,13 @@ ValueArray joinOnTop(const std::vector<ValueArray>& parts) {
     return result;
 }
 
-// The non-empty parts, or the first part when all are empty (so that the
-// result keeps its class).
+// The parts that are not 0-by-0, or the first part when all are (so that the
+// result keeps its class). Other empty parts take part like any array: two
+// 0-by-3 side by side are 0-by-6.
 std::vector<ValueArray> withoutEmpties(std::vector<ValueArray> parts) {
     std::vector<ValueArray> kept;
     for (auto& part : parts)
-        if (!part.isEmpty()) kept.push_back(std::move(part));
+        if (part.dims() != Dims{0, 0}) kept.push_back(std::move(part));
     if (kept.empty() && !parts.empty()) kept.push_back(std::move(parts.front()));
     return kept;
 }

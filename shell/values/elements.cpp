@@ -7,6 +7,8 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
+#include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 
@@ -75,6 +77,16 @@ ValueArray toStrings(const ValueArray& v) {
 
 void checkElementCount(double count) {
     if (count > static_cast<double>(kMaxElements)) except::throwMessage(ArrayTooLarge(count, kMaxElements));
+}
+
+std::optional<std::size_t> wholeCount(double x) {
+    if (!std::isfinite(x) || x < 0 || x != std::floor(x)) return std::nullopt;
+    if (x > static_cast<double>(kMaxElements)) {
+        char buffer[64];
+        const auto written = std::to_chars(buffer, buffer + sizeof buffer, x);
+        except::throwMessage(SizeTooLarge(text::asciiToUtf16(std::string_view(buffer, written.ptr)), kMaxElements));
+    }
+    return static_cast<std::size_t>(x);
 }
 
 bool isNumberLike(const ValueArray& v) { return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char); }

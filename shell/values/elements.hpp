@@ -5,6 +5,7 @@
 #include <orrery/value/value_array.hpp>
 
 #include <cstddef>
+#include <optional>
 
 namespace orrery::shell::values {
 
@@ -14,6 +15,12 @@ inline constexpr std::size_t kMaxElements = std::size_t{1} << 27;
 /// Raises "ORRERY:shell:arrayTooLarge" when an array of that many elements
 /// would exceed kMaxElements.
 void checkElementCount(double count);
+
+/// The one conversion of a double to a size, dimension or index: x when it is
+/// a whole number from 0 to kMaxElements. NaN, infinities, fractions and
+/// negatives give nothing (the caller raises its own error); a larger whole
+/// number raises "ORRERY:shell:sizeTooLarge". Nothing is converted unchecked.
+std::optional<std::size_t> wholeCount(double x);
 
 /// An array of the class of `proto` (with its fields, or its object class) and
 /// the given size, holding default elements: zeros, empty texts, empty cells,

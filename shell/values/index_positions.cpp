@@ -43,10 +43,9 @@ std::vector<std::size_t> indexPositions(const IndexArg& arg, std::size_t extent)
     if (!isNumberLike(index)) except::throwMessage(BadIndexClass());
     positions.reserve(index.numel());
     for (std::size_t i = 0; i < index.numel(); ++i) {
-        const double number = index.realAt(i);
-        if (!(number >= 1) || number != std::floor(number)) badIndex(index, i);
-        checkElementCount(number);
-        positions.push_back(static_cast<std::size_t>(number) - 1);
+        const auto position = wholeCount(index.realAt(i));
+        if (!position || *position < 1) badIndex(index, i);
+        positions.push_back(*position - 1);
     }
     return positions;
 }

@@ -218,7 +218,7 @@ ValueArray makeRange(const ValueArray& start, const ValueArray* step, const Valu
         return ValueArray::zeros(ClassId::Double, Dims{1, 0});
     const double span = std::floor((last - first) / by * (1 + 1e-12) + 1e-10);
     checkElementCount(span + 1);
-    const auto count = static_cast<std::size_t>(span) + 1;
+    const std::size_t count = wholeCount(span + 1).value_or(0);
     const bool chars = start.is(ClassId::Char) && stop.is(ClassId::Char);
     ValueArray result = ValueArray::zeros(chars ? ClassId::Char : ClassId::Double, Dims{1, count});
     for (std::size_t k = 0; k < count; ++k) result.setRealAt(k, first + static_cast<double>(k) * by);

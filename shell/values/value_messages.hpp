@@ -34,5 +34,7 @@ ORRERY_MESSAGE_KEY(ConditionClass, "ORRERY:shell:conditionClass");
 ORRERY_MESSAGE_KEY(BadRange, "ORRERY:shell:badRange");
 /// {0}: elements; {1}: limit.
 ORRERY_MESSAGE_KEY(ArrayTooLarge, "ORRERY:shell:arrayTooLarge");
+/// {0}: the number as written; {1}: the limit.
+ORRERY_MESSAGE_KEY(SizeTooLarge, "ORRERY:shell:sizeTooLarge");
 
 }  // namespace orrery::shell::values

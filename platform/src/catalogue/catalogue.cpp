@@ -7,11 +7,13 @@
 #include <orrery/text/text.hpp>
 
 #include <unicode/locid.h>
+#include <unicode/messagepattern.h>
 #include <unicode/msgfmt.h>
 #include <unicode/ures.h>
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -81,6 +83,21 @@ icu::Formattable toFormattable(const MessageArgument& argument) {
     return icu::Formattable(icu::UnicodeString(text.data(), static_cast<int32_t>(text.size())));
 }
 
+// The number of arguments a pattern uses: one more than its highest argument
+// number (nested choices and plurals included).
+std::size_t argumentsUsed(const icu::UnicodeString& pattern) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::MessagePattern parsed(pattern, nullptr, status);
+    if (U_FAILURE(status)) return 0;
+    std::size_t used = 0;
+    for (int32_t i = 0; i < parsed.countParts(); ++i) {
+        const icu::MessagePattern::Part& part = parsed.getPart(i);
+        if (part.getType() == UMSGPAT_PART_TYPE_ARG_NUMBER)
+            used = std::max(used, static_cast<std::size_t>(part.getValue()) + 1);
+    }
+    return used;
+}
+
 }  // namespace
 
 std::string catalogueFolder() {
@@ -96,9 +113,11 @@ std::u16string formatMessage(std::string_view identifier, std::span<const Messag
     const auto pattern = lookupPattern(identifier);
     if (!pattern) except::throwMessage(NoSuchMessage(text::utf8ToUtf16(identifier)));
     UErrorCode status = U_ZERO_ERROR;
-    icu::MessageFormat format(icu::UnicodeString(pattern->data(), static_cast<int32_t>(pattern->size())),
-                              icu::Locale::getDefault(), status);
+    const icu::UnicodeString patternText(pattern->data(), static_cast<int32_t>(pattern->size()));
+    icu::MessageFormat format(patternText, icu::Locale::getDefault(), status);
     if (U_FAILURE(status)) except::internalError("message catalogue", "malformed entry for " + std::string(identifier));
+    if (arguments.size() != argumentsUsed(patternText))
+        except::throwMessage(ArgumentMismatch(text::utf8ToUtf16(identifier)));
     std::vector<icu::Formattable> values;
     values.reserve(arguments.size());
     for (const auto& argument : arguments) values.push_back(toFormattable(argument));

@@ -29,6 +29,13 @@ TEST(Catalogue, FormatsKnownEntriesAndReportsMissingOnes) {
     EXPECT_MSGID(formatMessage("ORRERY:nowhere:atAll"), "ORRERY:catalogue:noSuchMessage");
     const MessageArgument abc[] = {std::u16string(u"abc")};
     EXPECT_MSGID(formatMessage("ORRERY:msgInputAnalyzer:identifierTooLong", abc), "ORRERY:catalogue:argumentMismatch");
+    const MessageArgument twoLimits[] = {8191.0, 8191.0};
+    for (std::span<const MessageArgument> wrongCount :
+         {std::span<const MessageArgument>(), std::span<const MessageArgument>(twoLimits)}) {
+        SCOPED_TRACE(wrongCount.size());
+        EXPECT_MSGID(formatMessage("ORRERY:msgInputAnalyzer:identifierTooLong", wrongCount),
+                     "ORRERY:catalogue:argumentMismatch");
+    }
 }
 
 // The message input analyzer raises its caller's prefix plus a mnemonic whose

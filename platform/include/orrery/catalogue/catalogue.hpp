@@ -16,7 +16,8 @@ ORRERY_API bool hasMessage(std::string_view identifier);
 
 /// The text of the identifier with its placeholders filled from arguments, in the
 /// ICU default locale. A missing entry raises "ORRERY:catalogue:noSuchMessage";
-/// arguments of the wrong kind for the pattern raise "ORRERY:catalogue:argumentMismatch".
+/// arguments of the wrong kind for the pattern, or more or fewer than it uses,
+/// raise "ORRERY:catalogue:argumentMismatch".
 ORRERY_API std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments = {});
 
 /// Convenience: formatMessage converted to UTF-8.
