@@ -1,7 +1,7 @@
 // Freeing a value's data block without recursing into the blocks it holds.
 #include "value/value_data.hpp"
 
-#include <type_traits>
+#include <variant>
 
 namespace orrery::value {
 namespace {
@@ -29,20 +29,15 @@ void defer(Pending& pending, std::shared_ptr<T>& owner) noexcept {
 ValueArray::Data::~Data() {
     Pending own;
     Pending& pending = active ? *active : own;
-    std::visit(
-        [&pending](auto& contents) {
-            using S = std::decay_t<decltype(contents)>;
-            if constexpr (std::is_same_v<S, CellStore>) {
-                for (auto& element : contents.values) defer(pending, element.data_);
-            } else if constexpr (std::is_same_v<S, StructStore>) {
-                for (auto& field : contents.values)
-                    for (auto& element : field)
-                        if (element) defer(pending, element->data_);
-            } else if constexpr (std::is_same_v<S, ObjectStore>) {
-                for (auto& instance : contents.instances) defer(pending, instance);
-            }
-        },
-        store);
+    if (auto* cells = std::get_if<CellStore>(&store)) {
+        for (auto& element : cells->values) defer(pending, element.data_);
+    } else if (auto* structs = std::get_if<StructStore>(&store)) {
+        for (auto& field : structs->values)
+            for (auto& element : field)
+                if (element) defer(pending, element->data_);
+    } else if (auto* objects = std::get_if<ObjectStore>(&store)) {
+        for (auto& instance : objects->instances) defer(pending, instance);
+    }
     if (active) return;
     active = &own;
     while (!own.empty()) {
