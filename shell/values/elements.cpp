@@ -7,6 +7,7 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -18,6 +19,9 @@ namespace {
 using value::ClassId;
 using value::Dims;
 using value::ValueArray;
+
+// The element limit in force (process-wide, like the function table).
+std::size_t limitInForce = kMaxElements;
 
 template <class T>
 void copyTyped(ValueArray& dst, std::size_t to, const ValueArray& src, std::size_t from) {
@@ -75,16 +79,20 @@ ValueArray toStrings(const ValueArray& v) {
 
 }  // namespace
 
+std::size_t elementLimit() noexcept { return limitInForce; }
+
+void setElementLimit(std::size_t newLimit) noexcept { limitInForce = std::min(newLimit, kMaxElements); }
+
 void checkElementCount(double count) {
-    if (count > static_cast<double>(kMaxElements)) except::throwMessage(ArrayTooLarge(count, kMaxElements));
+    if (count > static_cast<double>(limitInForce)) except::throwMessage(ArrayTooLarge(count, limitInForce));
 }
 
 std::optional<std::size_t> wholeCount(double x) {
     if (!std::isfinite(x) || x < 0 || x != std::floor(x)) return std::nullopt;
-    if (x > static_cast<double>(kMaxElements)) {
+    if (x > static_cast<double>(limitInForce)) {
         char buffer[64];
         const auto written = std::to_chars(buffer, buffer + sizeof buffer, x);
-        except::throwMessage(SizeTooLarge(text::asciiToUtf16(std::string_view(buffer, written.ptr)), kMaxElements));
+        except::throwMessage(SizeTooLarge(text::asciiToUtf16(std::string_view(buffer, written.ptr)), limitInForce));
     }
     return static_cast<std::size_t>(x);
 }

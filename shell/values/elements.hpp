@@ -12,12 +12,19 @@ namespace orrery::shell::values {
 /// The most elements an array made by the language may have.
 inline constexpr std::size_t kMaxElements = std::size_t{1} << 27;
 
+/// The element limit in force: kMaxElements unless lowered by setElementLimit.
+std::size_t elementLimit() noexcept;
+
+/// Lowers (or restores) the element limit for the whole process, to at most
+/// kMaxElements: for running untrusted programs in bounded memory.
+void setElementLimit(std::size_t limit) noexcept;
+
 /// Raises "ORRERY:shell:arrayTooLarge" when an array of that many elements
-/// would exceed kMaxElements.
+/// would exceed the element limit.
 void checkElementCount(double count);
 
 /// The one conversion of a double to a size, dimension or index: x when it is
-/// a whole number from 0 to kMaxElements. NaN, infinities, fractions and
+/// a whole number from 0 to the element limit. NaN, infinities, fractions and
 /// negatives give nothing (the caller raises its own error); a larger whole
 /// number raises "ORRERY:shell:sizeTooLarge". Nothing is converted unchecked.
 std::optional<std::size_t> wholeCount(double x);
