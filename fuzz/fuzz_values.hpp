@@ -92,7 +92,7 @@ inline value::ValueArray decodeValue(FuzzInput& in, int depth) {
     const std::size_t kinds = depth < 3 ? 14 : 9;
     switch (in.below(kinds)) {
         case 0: return ValueArray::chars(textUnits(in));
-        case 1: return ValueArray::charsFromUtf8(in.text());
+        case 1: return ValueArray::chars(text::utf8ToUtf16Lossy(in.text()));
         case 2: return ValueArray::scalar(in.number());
         case 3: {
             std::vector<double> values(in.below(5));
@@ -147,8 +147,9 @@ inline value::ValueArray decodeValue(FuzzInput& in, int depth) {
             // an error structure, the shape rethrow and lasterror read
             auto error = ValueArray::structArray(Dims{1, 1});
             error.setField(0, "message", in.flag() ? ValueArray::chars(textUnits(in)) : decodeValue(in, depth + 1));
-            error.setField(0, "identifier",
-                           in.flag() ? ValueArray::charsFromUtf8(in.text()) : decodeValue(in, depth + 1));
+            error.setField(
+                0, "identifier",
+                in.flag() ? ValueArray::chars(text::utf8ToUtf16Lossy(in.text())) : decodeValue(in, depth + 1));
             if (in.flag()) error.setField(0, "stack", stackStructure(in, depth));
             return error;
         }

@@ -79,6 +79,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::cerr << "FINDING: the scan refuses a log the full read accepts: " << failure.what() << std::endl;
             std::abort();
         }
+    } catch (const boost::bad_lexical_cast&) {
+        // a frame's line that does not convert, which the scan checks too
+        if (readInFull) {
+            std::cerr << "FINDING: the scan refuses a line the full read accepts" << std::endl;
+            std::abort();
+        }
     }
     return 0;
 }

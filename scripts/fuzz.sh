@@ -50,10 +50,13 @@ run_target() {
   local corpus=$work/corpus/$name findings=$work/findings/$name
   mkdir -p "$corpus" "$findings"
   rm -f "$findings"/*
+  local seeds=()
+  for folder in "fuzz/corpus/$name" "tests/fuzz_regressions/$name"; do
+    if [ -d "$folder" ]; then seeds+=("$folder"); fi
+  done
   # shellcheck disable=SC2046
   build/fuzz/bin/"$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
-    -artifact_prefix="$findings/" $(options_of "$name") \
-    "$corpus" "fuzz/corpus/$name" "tests/fuzz_regressions/$name" >"$work/$name.log" 2>&1 || true
+    -artifact_prefix="$findings/" $(options_of "$name") "$corpus" "${seeds[@]}" >"$work/$name.log" 2>&1 || true
 }
 
 # Two at a time, one per core.
