@@ -29,5 +29,6 @@ ORRERY_MESSAGE_KEY(SwitchValue, "ORRERY:shell:switchValue");
 ORRERY_MESSAGE_KEY(ForOverClass, "ORRERY:shell:forOverClass");
 ORRERY_MESSAGE_KEY(OutOfMemory, "ORRERY:shell:outOfMemory");
 ORRERY_MESSAGE_KEY(Interrupted, "ORRERY:shell:interrupted");
+ORRERY_MESSAGE_KEY(BadConversion, "ORRERY:shell:badConversion");
 
 }  // namespace orrery::shell::eval

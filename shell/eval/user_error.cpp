@@ -7,6 +7,8 @@
 #include <orrery/interp/call_stack.hpp>
 #include <orrery/text/text.hpp>
 
+#include <boost/lexical_cast/bad_lexical_cast.hpp>
+
 #include <new>
 
 namespace orrery::shell::eval {
@@ -22,6 +24,10 @@ void rethrowAsUserError(std::string functionName) {
     } catch (const std::bad_alloc&) {
         const OutOfMemory key;
         throw except::QException(key.identifier(), key.text(), interp::currentStack(0), "");
+    } catch (const boost::bad_lexical_cast&) {
+        // a text from outside (a log file's argument or line) that is not the number it should be
+        const BadConversion key;
+        throw except::QException(key.identifier(), key.text(), interp::currentStack(0), std::move(functionName));
     }
 }
 

@@ -14,7 +14,9 @@ namespace orrery::shell::eval {
 /// a statement, the parse of a program), it rethrows the exception in flight: a
 /// QException unchanged; a catalogued failure as a QException with its
 /// identifier and text, the call stack of this moment and functionName as the
-/// reporting function; running out of memory as "ORRERY:shell:outOfMemory".
+/// reporting function; running out of memory as "ORRERY:shell:outOfMemory"; a
+/// text that does not convert to a number (Boost's bad lexical conversion, as
+/// the warning log reader raises it) as "ORRERY:shell:badConversion".
 /// Anything else is an internal fault and passes on unchanged.
 [[noreturn]] void rethrowAsUserError(std::string functionName = {});
 
