@@ -56,7 +56,8 @@ public:
 
     /// A text of up to maxLength bytes: a length byte, then that many bytes.
     std::string text(std::size_t maxLength = 64) {
-        const std::size_t length = std::min<std::size_t>(below(maxLength + 1), rest_.size());
+        const std::size_t wanted = below(maxLength + 1);  // taken before the size is read
+        const std::size_t length = std::min(wanted, rest_.size());
         std::string t(rest_.substr(0, length));
         rest_.remove_prefix(length);
         return t;
