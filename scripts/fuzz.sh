@@ -33,6 +33,11 @@ cmake --build --preset fuzz -j2 --target "${targets[@]}"
 
 work=build/fuzz/fuzzing
 mkdir -p "$work"
+# The targets' scratch folders: libFuzzer ends without running destructors, so
+# they are made here and removed after the run.
+export TMPDIR=$PWD/$work/tmp
+rm -rf "$TMPDIR"
+mkdir -p "$TMPDIR"
 
 # Options of a target beyond the common ones: input size limits and dictionary.
 options_of() {
@@ -66,6 +71,7 @@ for name in "${targets[@]}"; do
   run_target "$name" &
 done
 wait
+rm -rf "$TMPDIR"
 
 status=0
 for name in "${targets[@]}"; do
