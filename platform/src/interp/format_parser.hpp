@@ -1,6 +1,7 @@
 // A sprintf format taken apart into literal runs and conversions.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -10,6 +11,9 @@ namespace orrery::interp::detail {
 
 /// The largest width or precision a conversion may ask for, written or taken from the data.
 inline constexpr int maxFieldSize = 100000;
+
+/// The most characters a result may hold: as many as the language's largest array.
+inline constexpr std::size_t maxResultLength = std::size_t{1} << 27;
 
 /// A width or precision: absent, written in the format, or taken from the data ("*").
 struct FieldSize {

@@ -58,6 +58,13 @@ std::u16string literalTextOnly(const std::vector<FormatItem>& items) {
     return out;
 }
 
+// Appends text to out, refusing a result longer than maxResultLength.
+void append(std::u16string& out, std::u16string_view text) {
+    if (text.size() > detail::maxResultLength - out.size())
+        except::throwMessage(detail::ResultTooLong(static_cast<double>(detail::maxResultLength)));
+    out += text;
+}
+
 // Applies the format again and again while data remains; the output ends at the
 // first conversion that finds no data left.
 std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data) {
@@ -65,13 +72,13 @@ std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data)
     for (;;) {
         for (const auto& item : items) {
             if (const auto* literal = std::get_if<std::u16string>(&item)) {
-                out += *literal;
+                append(out, *literal);
                 continue;
             }
             const auto& conversion = std::get<Conversion>(item);
             detail::ResolvedConversion resolved;
             if (!resolve(conversion, data, resolved)) return out;
-            out += detail::formatElement(resolved, conversion.type == 's' ? data.nextForText() : data.next());
+            append(out, detail::formatElement(resolved, conversion.type == 's' ? data.nextForText() : data.next()));
         }
         if (data.exhausted()) return out;
     }

@@ -11,5 +11,7 @@ ORRERY_MESSAGE_KEY(MissingStringArgument, "ORRERY:sprintf:missingStringArgument"
 ORRERY_MESSAGE_KEY(BadFieldSize, "ORRERY:sprintf:badFieldSize");
 /// {0}: the class of the argument.
 ORRERY_MESSAGE_KEY(UnsupportedArgument, "ORRERY:sprintf:unsupportedArgument");
+/// {0}: the most characters a result may hold.
+ORRERY_MESSAGE_KEY(ResultTooLong, "ORRERY:sprintf:resultTooLong");
 
 }  // namespace orrery::interp::detail

@@ -39,7 +39,8 @@ namespace orrery::interp {
 /// Failures: count < 1 raises "ORRERY:notEnoughInputs"; a format that is not text
 /// "ORRERY:sprintf:missingStringArgument"; a width or precision that is not a whole number of at
 /// most 100000 in magnitude "ORRERY:sprintf:badFieldSize"; a cell, struct or object
-/// argument "ORRERY:sprintf:unsupportedArgument"; a null argument "ORRERY:invalidInput".
+/// argument "ORRERY:sprintf:unsupportedArgument"; a null argument "ORRERY:invalidInput"; a
+/// result longer than 2^27 characters "ORRERY:sprintf:resultTooLong".
 ORRERY_API value::ValueArray fiSprintf(std::int32_t count, const value::ValueArray* const* values);
 
 /// The text fiSprintf(count, values) holds, whatever the class of its format, with
