@@ -10,7 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace orrery::shell::builtins {
@@ -19,7 +21,26 @@ namespace {
 using value::ClassId;
 using value::ValueArray;
 
-bool equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth);
+// One comparison. Containers shared inside a value (as after c = {c c}) are
+// met again and again; the pairs of containers already found equal at a depth
+// are remembered, so a value made of shared parts is walked once per part, not
+// once per path to it.
+class Comparison {
+public:
+    bool equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth);
+
+private:
+    bool cellsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth);
+    bool structsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth);
+    bool elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i, std::size_t depth);
+    bool objectsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth);
+    bool containersEqual(const ValueArray& a, const ValueArray& b, std::size_t depth);
+
+    using Pair = std::tuple<const void*, const void*, std::size_t>;
+    std::set<Pair> equalPairs_;
+    // Holds the remembered containers' data, so that no address is reused.
+    std::vector<ValueArray> remembered_;
+};
 
 bool isNumberLike(const ValueArray& v) { return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char); }
 
@@ -45,13 +66,13 @@ bool charEqualsString(const ValueArray& chars, const ValueArray& string) {
     return text && *text == chars.chars();
 }
 
-bool cellsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
+bool Comparison::cellsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     for (std::size_t i = 0; i < a.numel(); ++i)
         if (!equalAt(a.cellAt(i), b.cellAt(i), depth)) return false;
     return true;
 }
 
-bool structsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
+bool Comparison::structsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     std::vector<std::string> namesA = a.fieldNames();
     std::vector<std::string> namesB = b.fieldNames();
     std::sort(namesA.begin(), namesA.end());
@@ -78,7 +99,7 @@ std::optional<bool> equalByClassMethod(const ValueArray& a, const ValueArray& b)
 
 // Elements of one class are equal when both hold no instance, share one, or
 // hold instances whose properties have equal values.
-bool elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i, std::size_t depth) {
+bool Comparison::elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i, std::size_t depth) {
     const auto x = a.objectAt(i);
     const auto y = b.objectAt(i);
     if (x == y) return true;
@@ -91,7 +112,7 @@ bool elementsEqual(const ValueArray& a, const ValueArray& b, std::size_t i, std:
 }
 
 // Objects are compared by value: same class, same size, and equal elements.
-bool objectsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
+bool Comparison::objectsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     if (!a.is(ClassId::Object) || !b.is(ClassId::Object)) return false;
     if (a.className() != b.className() || a.dims() != b.dims()) return false;
     if (const auto decided = equalByClassMethod(a, b)) return *decided;
@@ -102,7 +123,7 @@ bool objectsEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
 
 // depth: how many containers enclose a and b; bounded so that the walk ends
 // with a language error, not an exhausted stack.
-bool equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth) {
+bool Comparison::equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     if (++depth > value::kMaxValueDepth) except::throwMessage(except::host::NestedTooDeep(value::kMaxValueDepth));
     if (a.is(ClassId::Object) || b.is(ClassId::Object)) return objectsEqual(a, b, depth);
     if (a.is(ClassId::Char) && b.is(ClassId::String)) return charEqualsString(a, b);
@@ -112,14 +133,24 @@ bool equalAt(const ValueArray& a, const ValueArray& b, std::size_t depth) {
     if (a.classId() != b.classId()) return false;
     switch (a.classId()) {
         case ClassId::String: return stringsEqual(a, b);
-        case ClassId::Cell: return cellsEqual(a, b, depth);
-        case ClassId::Struct: return structsEqual(a, b, depth);
+        case ClassId::Cell:
+        case ClassId::Struct: return containersEqual(a, b, depth);
         default: return false;
     }
 }
 
+bool Comparison::containersEqual(const ValueArray& a, const ValueArray& b, std::size_t depth) {
+    const Pair pair{a.dataIdentity(), b.dataIdentity(), depth};
+    if (equalPairs_.contains(pair)) return true;
+    if (!(a.is(ClassId::Cell) ? cellsEqual(a, b, depth) : structsEqual(a, b, depth))) return false;
+    equalPairs_.insert(pair);
+    remembered_.push_back(a);
+    remembered_.push_back(b);
+    return true;
+}
+
 }  // namespace
 
-bool valuesEqual(const ValueArray& a, const ValueArray& b) { return equalAt(a, b, 0); }
+bool valuesEqual(const ValueArray& a, const ValueArray& b) { return Comparison().equalAt(a, b, 0); }
 
 }  // namespace orrery::shell::builtins

@@ -140,6 +140,8 @@ public:
     // ---- sharing --------------------------------------------------------------
     /// A copy sharing the data (the language's assignment).
     ValueArray sharedCopy() const { return *this; }
+    /// The data block's address: equal for two arrays while they share one block.
+    const void* dataIdentity() const noexcept { return data_.get(); }
 
     struct Data;
 
