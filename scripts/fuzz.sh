@@ -90,7 +90,7 @@ for name in "${targets[@]}"; do
   if [ "$keep_corpus" = 1 ]; then
     mkdir -p "fuzz/corpus/$name"
     build/fuzz/bin/"$name" -merge=1 $(options_of "$name") "fuzz/corpus/$name" "$work/corpus/$name" \
-      >"$work/$name.merge.log" 2>&1
+      >"$work/$name.merge.log" 2>&1 || echo "merging the corpus of $name failed (log: $work/$name.merge.log)"
   fi
 done
 exit $status
