@@ -5,6 +5,7 @@
 #include "shell/startup/startup_messages.hpp"
 
 #include <orrery/console/console_sink.hpp>
+#include <orrery/except/internal_error.hpp>
 #include <orrery/except/qexception.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/dispatch.hpp>
@@ -34,6 +35,7 @@ value::ValueArray loadWarningObjects(const std::string& file) {
         except::throwMessage(
             LogSummaryFailed(text::utf8ToUtf16Lossy(file), text::utf8ToUtf16(failure.identifier()), failure.message()));
     }
+    if (!output) except::internalError("shell", "the log's load function gave no value");
     return std::move(*output);
 }
 
