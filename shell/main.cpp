@@ -4,6 +4,7 @@
 #include "shell/eval/exit_request.hpp"
 #include "shell/eval/interpreter.hpp"
 #include "shell/prompt/prompt.hpp"
+#include "shell/startup/builtin_help.hpp"
 #include "shell/startup/command_line.hpp"
 #include "shell/startup/module_loader.hpp"
 #include "shell/startup/session.hpp"
@@ -31,6 +32,7 @@ int run(const Options& options) {
     const auto loaded = shell::startup::runAtTopLevel([&] { module.emplace(shell::startup::locateModule()); });
     if (loaded != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(loaded);
     shell::registerHostBuiltins();
+    shell::startup::registerHelp();
     shell::eval::Interpreter interpreter;
     shell::setVariableQuery([&interpreter](std::string_view name) { return interpreter.isVariable(name); });
     interpreter.baseWorkspace().set("argv", argumentCell(options.scriptArgs));
