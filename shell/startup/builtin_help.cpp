@@ -35,7 +35,7 @@ constexpr HelpEntry kEntries[] = {
      "none", "assert(moons == 2, 'mars:moons', 'Mars has 2 moons, not %d.', moons)"},
     {"rethrow", "raise an error described by a structure",
      "rethrow(s)\tthe error with s.identifier, s.message and s.stack (each optional);\n"
-     "\twithout a stack field, the call stack of the caller\n"
+     "\twithout a stack field, the current call stack less its innermost frame\n"
      "rethrow(err)\ta caught error object raised again with its own stack",
      "none", "rethrow(struct('identifier', 'tour:crashed', 'message', 'The lander crashed.'))"},
     {"lasterr", "the message and identifier of the last error",
