@@ -5,6 +5,7 @@
 #include "shell/eval/exit_request.hpp"
 #include "shell/eval/interpreter.hpp"
 #include "shell/prompt/prompt.hpp"
+#include "shell/startup/builtin_help.hpp"
 #include "shell/startup/command_line.hpp"
 #include "shell/startup/log_summary.hpp"
 #include "shell/startup/module_loader.hpp"
@@ -35,6 +36,7 @@ int run(const Options& options, const std::vector<shell::startup::WarningSetting
     const auto loaded = shell::startup::runAtTopLevel([&] { module.emplace(shell::startup::locateModule()); });
     if (loaded != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(loaded);
     shell::registerHostBuiltins();
+    shell::startup::registerHelp();
     const auto applied = shell::startup::runUsageStep([&] { shell::startup::applyWarningSettings(warningSettings); });
     if (applied != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(applied);
     if (options.mode == Options::Mode::LogSummary) {
