@@ -5,6 +5,7 @@
 #include "shell/eval/interpreter.hpp"
 #include "shell/prompt/prompt.hpp"
 #include "shell/startup/command_line.hpp"
+#include "shell/startup/large_stack.hpp"
 #include "shell/startup/module_loader.hpp"
 #include "shell/startup/session.hpp"
 
@@ -52,9 +53,7 @@ int run(const Options& options) {
     return status;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int runCommand(int argc, char** argv) {
     // The interpreter's state, current from before the module is loaded until
     // after it is terminated.
     const interp::VirtualMachineScope machine;
@@ -72,4 +71,10 @@ int main(int argc, char** argv) {
         return 0;
     }
     return run(options);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return shell::startup::runOnLargeStack([&] { return runCommand(argc, argv); });
 }
