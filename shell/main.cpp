@@ -7,6 +7,7 @@
 #include "shell/prompt/prompt.hpp"
 #include "shell/startup/builtin_help.hpp"
 #include "shell/startup/command_line.hpp"
+#include "shell/startup/large_stack.hpp"
 #include "shell/startup/log_summary.hpp"
 #include "shell/startup/module_loader.hpp"
 #include "shell/startup/session.hpp"
@@ -64,9 +65,7 @@ int run(const Options& options, const std::vector<shell::startup::WarningSetting
     return status;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int runCommand(int argc, char** argv) {
     // The interpreter's state, current from before the module is loaded until
     // after it is terminated.
     const interp::VirtualMachineScope machine;
@@ -91,4 +90,10 @@ int main(int argc, char** argv) {
     });
     if (settingsRead != shell::startup::RunOutcome::Completed) return shell::startup::exitStatus(settingsRead);
     return run(options, warningSettings);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return shell::startup::runOnLargeStack([&] { return runCommand(argc, argv); });
 }
