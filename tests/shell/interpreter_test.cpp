@@ -171,23 +171,12 @@ TEST_F(InterpreterTest, RefusesWhatObjectsDoNotOffer) {
     EXPECT_EQ(run("big.size"), "ans = 2\n") << "the refused write changed nothing";
 }
 
-TEST_F(InterpreterTest, MissingOutputsAreErrors) {
+// The other errors of the interpreter are shown by the interpreter_errors script.
+TEST_F(InterpreterTest, MissingOutputsOfBuiltinsAreErrors) {
     EXPECT_QEXCEPTION(run("x = probeNothing;"), "ORRERY:shell:noOutput",
                       "The function 'probeNothing' returns no value.");
     EXPECT_QEXCEPTION(run("[a, b, c, d] = probeOutputs;"), "ORRERY:shell:outputNotSet",
                       "The output '4' of 'probeOutputs' was not set.");
-    EXPECT_QEXCEPTION(run("function y = g\nend\nx = g();"), "ORRERY:shell:outputNotSet",
-                      "The output 'y' of 'g' was not set.");
-}
-
-TEST_F(InterpreterTest, UncaughtErrorsCarryTheStackWhereTheyHappened) {
-    const auto error = userErrorOf([&] { run("function f()\n  [1 2] + [1 2 3];\nend\nf();\n"); });
-    EXPECT_TRUE(interp::currentFrames().empty());
-    EXPECT_EQ(error.identifier(), "ORRERY:shell:sizeMismatch");
-    ASSERT_EQ(error.stack().numel(), 2u);
-    EXPECT_EQ(error.stack().field(0, "name")->textUtf8(), "f");
-    EXPECT_EQ(error.stack().field(0, "line")->realAt(0), 2);
-    EXPECT_EQ(error.stack().field(1, "name")->textUtf8(), "script");
 }
 
 TEST_F(InterpreterTest, EndlessRecursionIsAnError) {
@@ -219,9 +208,4 @@ TEST_F(InterpreterTest, NestingTooDeepForTheStackIsAnError) {
         "function r = f(n)\n  if n > 0\n    r = " + sum + ";\n  else\n    r = 0;\n  end\nend\nf(127);";
     EXPECT_EQ(userErrorOf([&] { run(program); }).identifier(), "ORRERY:shell:tooDeepToRun");
     EXPECT_TRUE(interp::currentFrames().empty());
-}
-
-TEST_F(InterpreterTest, EndInCallArgumentsIsAnError) {
-    EXPECT_QEXCEPTION(run("probeOutputs(end)"), "ORRERY:shell:endInCall",
-                      "'end' can only be used in an index of a variable, not in the arguments of 'probeOutputs'.");
 }
