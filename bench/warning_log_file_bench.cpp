@@ -77,6 +77,7 @@ void appendWarningToLogFloor(benchmark::State& state) {
     const ScratchFile file("bench_floor.xml");
     const int fd = ::open(file.path().c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
     const std::string bytes = renderedWarning();
+    state.SetLabel("one write() of the same bytes");
     for (auto _ : state)
         if (::write(fd, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) state.SkipWithError("write");
     ::close(fd);
@@ -93,6 +94,7 @@ void appendWarningToLogPeer(benchmark::State& state) {
     const Warning warning = typicalWarning();
     const std::string message = orrery::text::utf16ToUtf8(warning.getMessage());
     const std::string format = orrery::text::utf16ToUtf8(warning.getFormat());
+    state.SetLabel("spdlog file sink flushing every message");
     for (auto _ : state) logger.warn("{} {} ({})", warning.getIdentifier(), message, format);
     state.SetItemsProcessed(state.iterations());
 }
