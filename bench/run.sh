@@ -23,6 +23,10 @@ for argument; do
     *) build=$argument ;;
     esac
 done
+case $build in
+"" | /*) ;;
+*) build=$PWD/$build ;;
+esac
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
