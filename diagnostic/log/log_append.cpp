@@ -27,8 +27,8 @@ std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path, LogSync
     if (footerStart == 0) except::throwMessage(ids::LogFileFileSeek(path, u"no closing </log> tag"));
     // A warning whose writing was cut short may have left bytes after the footer.
     struct stat status {};
-    const bool bytesAfterFooter =
-        ::fstat(file.get(), &status) != 0 || static_cast<std::uint64_t>(status.st_size) > footerStart + kLogFooter.size();
+    const bool bytesAfterFooter = ::fstat(file.get(), &status) != 0 ||
+                                  static_cast<std::uint64_t>(status.st_size) > footerStart + kLogFooter.size();
     return std::make_shared<LogOutputStream>(path, std::move(file), footerStart, sync, bytesAfterFooter);
 }
 

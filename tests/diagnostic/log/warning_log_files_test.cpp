@@ -1,8 +1,8 @@
 // Tests of warning log files: the exact bytes written, opening and closing by
 // name, and failures of the file system.
 #include "diagnostic/log/log_output_stream.hpp"
-#include "diagnostic/log/warning_log_reader.hpp"
 #include "diagnostic/log/warning_element.hpp"
+#include "diagnostic/log/warning_log_reader.hpp"
 #include "diagnostic/log/warning_log_xml.hpp"
 #include "diagnostic/warnings/issued_warning_signal.hpp"
 
@@ -14,8 +14,8 @@
 #include <orrery/text/text.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
@@ -23,10 +23,10 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <iostream>
 #include <memory>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -293,12 +293,11 @@ TEST(WarningLogFile, EachFaultRaisesItsIdentifierKeepsWhatIsOnDiskAndLetsTheNext
          noGuardNeeded, openTarget, "ORRERY:warning:LogFile:FileSeek", nullptr,
          refusedAgain("ORRERY:warning:LogFile:FileSeek")},
         {"a folder named like a log",
-         [](FaultScene& scene) { std::filesystem::create_directory(text::utf16ToUtf8(scene.target)); },
-         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:OpenFileAppend", u"Is a directory",
+         [](FaultScene& scene) { std::filesystem::create_directory(text::utf16ToUtf8(scene.target)); }, noGuardNeeded,
+         openTarget, "ORRERY:warning:LogFile:OpenFileAppend", u"Is a directory",
          refusedAgain("ORRERY:warning:LogFile:OpenFileAppend")},
-        {"a folder that does not exist",
-         [&](FaultScene& scene) { scene.target = folder.file("missing/target.xml"); }, noGuardNeeded, openTarget,
-         "ORRERY:warning:LogFile:OpenFileWrite", u"No such file or directory",
+        {"a folder that does not exist", [&](FaultScene& scene) { scene.target = folder.file("missing/target.xml"); },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:OpenFileWrite", u"No such file or directory",
          refusedAgain("ORRERY:warning:LogFile:OpenFileWrite")},
         {"a folder that cannot be written",
          [&](FaultScene& scene) {
@@ -366,8 +365,7 @@ TEST(WarningLogFile, EachFaultRaisesItsIdentifierKeepsWhatIsOnDiskAndLetsTheNext
                 ORRERY_EXPECT_RAISED(c.meet(scene), except::IMsgIDException, c.identifier, {
                     EXPECT_EQ(failure__.identifier(), std::string(c.identifier));
                     if (c.failureText != nullptr) {
-                        EXPECT_EQ(failure__.key().arguments,
-                                  (Arguments{scene.target, std::u16string(c.failureText)}));
+                        EXPECT_EQ(failure__.key().arguments, (Arguments{scene.target, std::u16string(c.failureText)}));
                     }
                 });
                 EXPECT_EQ(signalled, signalledBefore) << "the steps after a failed write ran";
