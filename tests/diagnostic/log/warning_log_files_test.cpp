@@ -309,7 +309,7 @@ TEST(WarningLogFile, EachFaultRaisesItsIdentifierKeepsWhatIsOnDiskAndLetsTheNext
                                  std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
          },
          openTarget, "ORRERY:warning:LogFile:OpenFileWrite", nullptr, opensNowAfter({})},
-        {"a log that cannot be read or written",
+        {"a log that may not be opened for update",
          [](FaultScene& scene) {
              scene.openWithOneWarning();
              scene.log.closeLog(scene.target);
