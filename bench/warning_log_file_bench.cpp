@@ -1,6 +1,6 @@
-// Cost of appending a warning to an open log file, against the floor of write()
-// of the same rendered bytes and, when it is installed, against spdlog's basic
-// file sink flushing every message.
+// Cost of appending a warning to an open log file, with and without forcing it to
+// the disk, against the floor of write() of the same rendered bytes and, when it
+// is installed, against spdlog's basic file sink flushing every message.
 #include "bench/ratio_reporter.hpp"
 
 #include "diagnostic/log/log_output_stream.hpp"
@@ -72,6 +72,19 @@ void appendWarningToLog(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 
+// The same with ORRERY_LOG_SYNC=1: each warning forced to the disk (two fdatasync
+// calls, one after each of the warning's two writes), over the same floor.
+void appendWarningToLogWithSync(benchmark::State& state) {
+    const ScratchFile file("bench_sync_log.xml");
+    ::setenv("ORRERY_LOG_SYNC", "1", 1);
+    const auto log = orrery::lang::diagnostic::openLogForWriting(orrery::text::utf8ToUtf16(file.path()));
+    ::unsetenv("ORRERY_LOG_SYNC");
+    const Warning warning = typicalWarning();
+    for (auto _ : state)
+        log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(warning)));
+    state.SetItemsProcessed(state.iterations());
+}
+
 // The floor: one write() of the same rendered bytes per warning.
 void appendWarningToLogFloor(benchmark::State& state) {
     const ScratchFile file("bench_floor.xml");
@@ -105,6 +118,8 @@ BENCHMARK(appendWarningToLogPeer)->Repetitions(5);
 
 BENCHMARK(appendWarningToLog)->Repetitions(5);
 BENCHMARK(appendWarningToLogFloor)->Repetitions(5);
+BENCHMARK(appendWarningToLogWithSync)->Repetitions(5);
+BENCHMARK(appendWarningToLogFloor)->Name("appendWarningToLogWithSyncFloor")->Repetitions(5);
 
 int main(int argc, char** argv) {
     const orrery::interp::VirtualMachineScope machine;
