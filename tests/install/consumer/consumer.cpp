@@ -36,7 +36,7 @@ using ModuleHandle = std::unique_ptr<void, ModuleCloser>;
 // The exported connection point's linker name.
 constexpr const char* kConnectSymbol =
     "_ZN8builtins28connectIssuedWarningCallbackERKN5boost8signals24slotIFvRKN6orrery4lang10diagnostic7WarningEENS0_"
-    "8functionIS8_EEEE";
+    "8functionIS9_EEEE";
 
 template <class Function>
 Function* entry(void* module, const char* name) {
@@ -51,9 +51,8 @@ std::vector<Warning> issueAndListen(void* module) {
     const auto connect = entry<decltype(builtins::connectIssuedWarningCallback)>(module, kConnectSymbol);
     orrery::interp::registerFunction("warning", entry<decltype(bnFullWarningFcn)>(module, "bnFullWarningFcn"));
     std::vector<Warning> seen;
-    const boost::signals2::scoped_connection listening = connect([&seen](const Warning& issued) {
-        seen.push_back(issued);
-    });
+    const boost::signals2::scoped_connection listening =
+        connect([&seen](const Warning& issued) { seen.push_back(issued); });
     const auto identifier = orrery::value::ValueArray::charsFromUtf8("ORRERY:consumer:installed");
     const auto format = orrery::value::ValueArray::charsFromUtf8("value %d");
     const auto number = orrery::value::ValueArray::scalar(5);
