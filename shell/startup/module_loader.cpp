@@ -31,6 +31,8 @@ std::u16string pathText(const std::filesystem::path& path) { return text::utf8To
 
 }  // namespace
 
+std::span<const BuiltinBinding> moduleBindings() { return kBindings; }
+
 std::filesystem::path locateModule() {
     if (const char* configured = std::getenv("ORRERY_MODULE_PATH"); configured != nullptr && *configured != '\0') {
         std::filesystem::path path(configured);

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string_view>
 
 namespace orrery::shell::startup {
@@ -13,6 +14,9 @@ struct BuiltinBinding {
     std::string_view name;
     const char* symbol;
 };
+
+/// The module's built-ins the loader binds, each language name with its symbol.
+std::span<const BuiltinBinding> moduleBindings();
 
 /// Where the module is: $ORRERY_MODULE_PATH (the file, or a folder holding
 /// libdiagnostic.so) when set, else libdiagnostic.so beside the running program
