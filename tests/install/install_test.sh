@@ -9,7 +9,7 @@
 set -euo pipefail
 build=$1 libdir=$2 cxx=$3 flags=$4 launcher=${5:-}
 consumer=$(cd "$(dirname "$0")/consumer" && pwd)
-unset ORRERY_CATALOGUE_DIR ORRERY_MODULE_PATH LD_LIBRARY_PATH
+unset ORRERY_CATALOGUE_DIR ORRERY_MODULE_PATH ORRERY_WARNINGS LD_LIBRARY_PATH
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
