@@ -1,6 +1,8 @@
 // Cost of the Warning class over plain records, for 100,000 warnings: loading a
 // log into a Warning array against reading its records alone, and sorting the
-// array through its sort method against a stable sort of a copy of the records.
+// array through its sort method against a stable sort of a copy of the records;
+// also the load's peak heap use over the log file's size.
+#include "bench/heap_accounting.hpp"
 #include "bench/ratio_reporter.hpp"
 
 #include "diagnostic/classes/class_registration.hpp"
@@ -69,20 +71,25 @@ const std::u16string& logPath() {
     return path;
 }
 
+long long loadPeakBytes = 0;
+
 // w = orrery.internal.diagnostic.log.load(file): read, then made Warning objects.
 void loadWarningArray(benchmark::State& state) {
     orrery::lang::diagnostic::registerWarningClassForModule();
     const ValueArray name = ValueArray::chars(logPath());
     const ValueArray* inputs[] = {&name};
     for (auto _ : state) {
+        const orrery::bench::HeapPeak peak;
         ValueArrayPtr outputs[1];
         orrery::ocos::callNamespaceFunction("orrery.internal.diagnostic.log.load", 1, outputs, 1, inputs);
         benchmark::DoNotOptimize(outputs[0].get());
+        loadPeakBytes = peak.bytes();
     }
 }
 
 // The floor: the reader alone.
 void loadWarningArrayFloor(benchmark::State& state) {
+    state.SetLabel("the log reader alone, no objects made");
     for (auto _ : state) {
         auto records = orrery::lang::diagnostic::readWarningLog(logPath());
         benchmark::DoNotOptimize(records.data());
@@ -104,6 +111,7 @@ void sortWarningArray(benchmark::State& state) {
 // The floor: the records copied and stably sorted, as any sort of records must.
 void sortWarningArrayFloor(benchmark::State& state) {
     const std::vector<Warning>& records = sessionRecords();
+    state.SetLabel("std::stable_sort of a copy of the records");
     for (auto _ : state) {
         std::vector<Warning> copy = records;
         std::stable_sort(copy.begin(), copy.end());
@@ -121,6 +129,10 @@ BENCHMARK(sortWarningArrayFloor)->Unit(benchmark::kMillisecond)->Repetitions(3);
 int main(int argc, char** argv) {
     const orrery::interp::VirtualMachineScope machine;
     const int status = orrery::bench::runWithRatios(argc, argv);
-    std::filesystem::remove(std::filesystem::path(orrery::text::utf16ToUtf8(logPath())));
+    const auto file = std::filesystem::path(orrery::text::utf16ToUtf8(logPath()));
+    if (loadPeakBytes > 0)
+        orrery::bench::printPeakHeapRow("loadWarningArray", loadPeakBytes,
+                                        static_cast<long long>(std::filesystem::file_size(file)));
+    std::filesystem::remove(file);
     return status;
 }

@@ -38,6 +38,7 @@ void issueDisabledWarning(benchmark::State& state) {
 // The floor: the state applied and the last warning set, nothing else.
 void issueDisabledWarningFloor(benchmark::State& state) {
     auto* context = quietContext();
+    state.SetLabel("the warning's state applied and the last warning set");
     for (auto _ : state) {
         benchmark::DoNotOptimize(orrery::warning::issueWarningWithoutLogging(context, kIdentifier, kMessage));
         orrery::warning::utSetLastWarningMsg(context, kIdentifier, kMessage);

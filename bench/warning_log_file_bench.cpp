@@ -1,6 +1,6 @@
-// Cost of appending a warning to an open log file, against the floor of write()
-// of the same rendered bytes and, when it is installed, against spdlog's basic
-// file sink flushing every message.
+// Cost of appending a warning to an open log file, with and without forcing it to
+// the disk, against the floor of write() of the same rendered bytes and, when it
+// is installed, against spdlog's basic file sink flushing every message.
 #include "bench/ratio_reporter.hpp"
 
 #include "diagnostic/log/log_output_stream.hpp"
@@ -72,13 +72,40 @@ void appendWarningToLog(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 
+// The same with ORRERY_LOG_SYNC=1: each warning forced to the disk (two fdatasync
+// calls, one after each of the warning's two writes), over a floor that syncs once.
+void appendWarningToLogWithSync(benchmark::State& state) {
+    const ScratchFile file("bench_sync_log.xml");
+    ::setenv("ORRERY_LOG_SYNC", "1", 1);
+    const auto log = orrery::lang::diagnostic::openLogForWriting(orrery::text::utf8ToUtf16(file.path()));
+    ::unsetenv("ORRERY_LOG_SYNC");
+    const Warning warning = typicalWarning();
+    for (auto _ : state)
+        log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(warning)));
+    state.SetItemsProcessed(state.iterations());
+}
+
 // The floor: one write() of the same rendered bytes per warning.
 void appendWarningToLogFloor(benchmark::State& state) {
     const ScratchFile file("bench_floor.xml");
     const int fd = ::open(file.path().c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
     const std::string bytes = renderedWarning();
+    state.SetLabel("one write() of the same bytes");
     for (auto _ : state)
         if (::write(fd, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) state.SkipWithError("write");
+    ::close(fd);
+    state.SetItemsProcessed(state.iterations());
+}
+
+// The floor of the synced append: one write() of the same bytes, then fdatasync.
+void appendWarningToLogWithSyncFloor(benchmark::State& state) {
+    const ScratchFile file("bench_sync_floor.xml");
+    const int fd = ::open(file.path().c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    const std::string bytes = renderedWarning();
+    state.SetLabel("one write() of the same bytes and one fdatasync");
+    for (auto _ : state)
+        if (::write(fd, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()) || ::fdatasync(fd) != 0)
+            state.SkipWithError("write");
     ::close(fd);
     state.SetItemsProcessed(state.iterations());
 }
@@ -93,6 +120,7 @@ void appendWarningToLogPeer(benchmark::State& state) {
     const Warning warning = typicalWarning();
     const std::string message = orrery::text::utf16ToUtf8(warning.getMessage());
     const std::string format = orrery::text::utf16ToUtf8(warning.getFormat());
+    state.SetLabel("spdlog file sink flushing every message");
     for (auto _ : state) logger.warn("{} {} ({})", warning.getIdentifier(), message, format);
     state.SetItemsProcessed(state.iterations());
 }
@@ -103,6 +131,9 @@ BENCHMARK(appendWarningToLogPeer)->Repetitions(5);
 
 BENCHMARK(appendWarningToLog)->Repetitions(5);
 BENCHMARK(appendWarningToLogFloor)->Repetitions(5);
+// Real time: the wait for the disk is no CPU time of the process.
+BENCHMARK(appendWarningToLogWithSync)->Repetitions(5)->UseRealTime();
+BENCHMARK(appendWarningToLogWithSyncFloor)->Repetitions(5)->UseRealTime();
 
 int main(int argc, char** argv) {
     const orrery::interp::VirtualMachineScope machine;

@@ -1,5 +1,6 @@
 // Cost of loading a 100,000-warning log, against Expat parsing the same file with
 // empty handlers; also the load's peak heap use over the file's size.
+#include "bench/heap_accounting.hpp"
 #include "bench/ratio_reporter.hpp"
 
 #include "diagnostic/log/warning_log_reader.hpp"
@@ -8,67 +9,11 @@
 #include <orrery/text/text.hpp>
 
 #include <expat.h>
-#include <malloc.h>
 #include <unistd.h>
 
-#include <atomic>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string>
-
-// ---- heap accounting: every allocation of the process, Expat's included ---------------
-
-extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* pointer, std::size_t size);
-void* __libc_memalign(std::size_t alignment, std::size_t size);
-void __libc_free(void* pointer);
-}
-
-namespace {
-
-std::atomic<long long> liveBytes{0};
-std::atomic<long long> peakBytes{0};
-
-void* counted(void* pointer) {
-    if (pointer != nullptr) {
-        const long long live = liveBytes += static_cast<long long>(malloc_usable_size(pointer));
-        long long peak = peakBytes.load();
-        while (live > peak && !peakBytes.compare_exchange_weak(peak, live)) {
-        }
-    }
-    return pointer;
-}
-
-void uncount(void* pointer) {
-    if (pointer != nullptr) liveBytes -= static_cast<long long>(malloc_usable_size(pointer));
-}
-
-}  // namespace
-
-extern "C" {
-void* malloc(std::size_t size) { return counted(__libc_malloc(size)); }
-void* calloc(std::size_t count, std::size_t size) { return counted(__libc_calloc(count, size)); }
-void free(void* pointer) {
-    uncount(pointer);
-    __libc_free(pointer);
-}
-void* realloc(void* pointer, std::size_t size) {
-    const long long before = pointer != nullptr ? static_cast<long long>(malloc_usable_size(pointer)) : 0;
-    void* moved = __libc_realloc(pointer, size);
-    if (moved == nullptr) return nullptr;
-    liveBytes -= before;
-    return counted(moved);
-}
-void* memalign(std::size_t alignment, std::size_t size) { return counted(__libc_memalign(alignment, size)); }
-void* aligned_alloc(std::size_t alignment, std::size_t size) { return counted(__libc_memalign(alignment, size)); }
-int posix_memalign(void** out, std::size_t alignment, std::size_t size) {
-    *out = counted(__libc_memalign(alignment, size));
-    return *out != nullptr ? 0 : ENOMEM;
-}
-}
 
 namespace {
 
@@ -110,11 +55,10 @@ long long loadPeakBytes = 0;
 void loadWarningLog(benchmark::State& state) {
     const std::u16string path = orrery::text::utf8ToUtf16(logPath());
     for (auto _ : state) {
-        const long long baseline = liveBytes.load();
-        peakBytes = baseline;
+        const orrery::bench::HeapPeak peak;
         auto warnings = orrery::lang::diagnostic::readWarningLogFile(path);
         benchmark::DoNotOptimize(warnings.data());
-        loadPeakBytes = peakBytes.load() - baseline;
+        loadPeakBytes = peak.bytes();
     }
     state.SetBytesProcessed(state.iterations() * fileSize());
 }
@@ -125,6 +69,7 @@ void XMLCALL ignoreText(void*, const XML_Char*, int) {}
 
 // The floor: Expat over the same file, fed the same 1024-byte blocks, with empty handlers.
 void loadWarningLogFloor(benchmark::State& state) {
+    state.SetLabel("bare Expat parse of the file, empty handlers");
     for (auto _ : state) {
         XML_Parser parser = XML_ParserCreate(nullptr);
         XML_SetElementHandler(parser, ignoreStart, ignoreEnd);
@@ -151,10 +96,7 @@ BENCHMARK(loadWarningLogFloor)->Unit(benchmark::kMillisecond)->Repetitions(3);
 int main(int argc, char** argv) {
     const orrery::interp::VirtualMachineScope machine;
     const int status = orrery::bench::runWithRatios(argc, argv);
-    if (loadPeakBytes > 0)
-        std::printf("ratio loadWarningLogPeakMemory %.2f (%.1f MB peak heap for a %.1f MB file)\n",
-                    static_cast<double>(loadPeakBytes) / static_cast<double>(fileSize()), loadPeakBytes / 1e6,
-                    fileSize() / 1e6);
+    if (loadPeakBytes > 0) orrery::bench::printPeakHeapRow("loadWarningLog", loadPeakBytes, fileSize());
     std::filesystem::remove(logPath());
     return status;
 }

@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing, benchmarking and fuzzing need,
 # and the decimal-comma locale that some tests switch to.
-# Runs unattended as root (or through sudo); installs only what is missing.
+# Runs unattended as root (or through sudo); installs only what is missing. Prints
+# one line per action; the package manager's own output goes to build/setup.log,
+# which a failing step names.
 set -euo pipefail
+cd "$(dirname "$0")/.."
 
 packages=(
   g++ clang libclang-rt-14-dev clang-format clang-tidy cmake ninja-build pkg-config
@@ -12,6 +15,10 @@ packages=(
   libedit-dev libxml2-utils tzdata tmux locales
 )
 
+mkdir -p build
+log=$PWD/build/setup.log
+: >"$log"
+
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
@@ -20,16 +27,21 @@ sudo_cmd=()
 [ "$(id -u)" -eq 0 ] || sudo_cmd=(sudo -n)
 
 if [ ${#missing[@]} -gt 0 ]; then
-  echo "setup: installing ${missing[*]}"
+  echo "setup: installing packages: ${missing[*]}"
   export DEBIAN_FRONTEND=noninteractive
-  "${sudo_cmd[@]}" apt-get update -qq </dev/null
-  "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null
+  if ! { "${sudo_cmd[@]}" apt-get update && "${sudo_cmd[@]}" apt-get install -y --no-install-recommends "${missing[@]}"; } \
+    </dev/null >>"$log" 2>&1; then
+    echo "setup: installing packages failed; the package manager's output is in $log" >&2
+    exit 1
+  fi
+else
+  echo "setup: all packages present"
 fi
 
 # A locale that writes numbers with a decimal comma, for the tests that text reads
 # as the same number under any locale; without it those tests are skipped.
 if ! locale -a 2>/dev/null | grep -qix 'de_DE\.utf-\?8'; then
-  echo "setup: generating the de_DE.UTF-8 locale"
-  "${sudo_cmd[@]}" localedef -i de_DE -f UTF-8 de_DE.UTF-8 </dev/null ||
-    echo "setup: could not generate de_DE.UTF-8; the decimal-comma tests will be skipped"
+  echo "setup: generating locale de_DE.UTF-8"
+  "${sudo_cmd[@]}" localedef -i de_DE -f UTF-8 de_DE.UTF-8 </dev/null >>"$log" 2>&1 ||
+    echo "setup: could not generate de_DE.UTF-8 (see $log); the decimal-comma tests will be skipped"
 fi

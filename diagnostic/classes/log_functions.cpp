@@ -4,7 +4,7 @@
 #include "diagnostic/classes/warning_info.hpp"
 #include "diagnostic/log/issue_warning.hpp"
 #include "diagnostic/log/warning_log_reader.hpp"
-#include "diagnostic/record/convert_warnings.hpp"
+#include "diagnostic/record/convert_moved_warnings.hpp"
 
 #include <orrery/except/internal_error.hpp>
 #include <orrery/warning/warning_log.hpp>

@@ -12,6 +12,8 @@ namespace orrery::lang::diagnostic {
 /// ("ORRERY:warning:LogFile:OpenFileAppend"); the next element goes where its
 /// footer starts, as findLogEnd finds it ("FileSeek" when it has none). A file
 /// that the reader rejects raises the reader's error and is not written to.
-std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path);
+/// Bytes after the footer (what a warning cut short left) are cut off after the
+/// next warning.
+std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path, LogSync sync);
 
 }  // namespace orrery::lang::diagnostic

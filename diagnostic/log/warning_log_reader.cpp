@@ -56,6 +56,7 @@ public:
             const std::streamsize count = readBlock(static_cast<char*>(block), blockSize);
             const XML_Status status = XML_ParseBuffer(parser_.get(), static_cast<int>(count), input_.eof());
             if (failure_) std::rethrow_exception(failure_);
+            if (documentEnded_) return;
             if (status != XML_STATUS_OK) raiseParseError();
             if (count < blockSize) return;
             fed += count;
@@ -112,14 +113,22 @@ private:
     }
 
     static void XMLCALL onStart(void* userData, const XML_Char* name, const XML_Char** attributes) noexcept {
+        ++static_cast<WarningLogReader*>(userData)->depth_;
         guarded(userData, [&](WarningLogEvents& events) { events.startElement(name, attributes); });
     }
 
+    // The end of the root element ends the read: what follows it is not the
+    // document's (a warning whose writing was cut short leaves its bytes there).
     static void XMLCALL onEnd(void* userData, const XML_Char* name) noexcept {
-        XML_Parser parser = static_cast<WarningLogReader*>(userData)->parser_.get();
+        auto* reader = static_cast<WarningLogReader*>(userData);
+        XML_Parser parser = reader->parser_.get();
         guarded(userData, [&](WarningLogEvents& events) {
             events.endElement(name, static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser)));
         });
+        if (--reader->depth_ == 0 && !reader->failure_) {
+            reader->documentEnded_ = true;
+            XML_StopParser(parser, XML_FALSE);
+        }
     }
 
     static void XMLCALL onCharacterData(void* userData, const XML_Char* text, int length) noexcept {
@@ -133,6 +142,8 @@ private:
     std::ifstream input_;
     WarningLogEvents events_;
     std::exception_ptr failure_;
+    int depth_ = 0;
+    bool documentEnded_ = false;
 };
 
 }  // namespace

@@ -10,6 +10,10 @@
 
 namespace orrery::lang::diagnostic {
 
+/// Every read ends at the end of the document's root element: what follows it in
+/// the file is not read (it can only be what a warning whose writing was cut
+/// short left after the footer).
+
 /// The records of the log file, in file order. The name is normalised first
 /// (normaliseLogFileName). Raises the "LogFile" and "XMLParser" identifiers of
 /// the reader, or Boost's bad lexical conversion for an argument whose text does

@@ -1,5 +1,5 @@
 // Warning records as a row of Warning objects.
-#include "diagnostic/record/convert_warnings.hpp"
+#include "diagnostic/record/convert_moved_warnings.hpp"
 
 #include "diagnostic/classes/warning_objects.hpp"
 

@@ -15,7 +15,4 @@ namespace orrery::lang::diagnostic {
 /// have registered the class ("ORRERY:ocos:noSuchClass" otherwise).
 DIAGNOSTIC_EXPORT value::ValueArrayPtr convertWarningsToValueArray(const std::vector<Warning>& warnings);
 
-/// As above, moving the records into the objects instead of copying them.
-value::ValueArrayPtr convertWarningsToValueArray(std::vector<Warning>&& warnings);
-
 }  // namespace orrery::lang::diagnostic

@@ -18,7 +18,7 @@
 namespace orrery::shell::eval {
 
 /// How deeply script functions may call each other.
-inline constexpr std::size_t kMaxCallDepth = 128;
+inline constexpr std::size_t kMaxCallDepth = 10000;
 
 /// Runs programs. Errors leave run() as orrery::except::QException (language
 /// errors and catalogued failures are turned into one, with the call stack of

@@ -5,14 +5,16 @@
 
 #include <orrery/except/throw_message.hpp>
 
-#include <sys/resource.h>
+#include <pthread.h>
 
 #include <algorithm>
 
 namespace orrery::shell::eval {
 namespace {
 
-constexpr std::size_t kMostBudget = std::size_t{4} << 20;
+// Kept free below the budget for what runs past the last check: built-ins,
+// display and the nested-value walks, which stop at their own depth limits.
+constexpr std::size_t kReserve = std::size_t{2} << 20;
 
 thread_local std::uintptr_t base = 0;
 thread_local std::size_t budget = 0;
@@ -22,10 +24,24 @@ thread_local std::size_t budget = 0;
     return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
 }
 
+// The size of this thread's stack: the session thread's own, or the main
+// thread's limit.
+std::size_t stackSizeOfThisThread() {
+    pthread_attr_t attributes;
+    if (pthread_getattr_np(pthread_self(), &attributes) != 0) return 0;
+    void* lowest = nullptr;
+    std::size_t size = 0;
+    if (pthread_attr_getstack(&attributes, &lowest, &size) != 0) size = 0;
+    pthread_attr_destroy(&attributes);
+    return size;
+}
+
+// All of the stack but the reserve (an eighth of it, at least kReserve); half
+// of a stack too small for that.
 std::size_t budgetOfThisThread() {
-    rlimit limit{};
-    if (getrlimit(RLIMIT_STACK, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY) return kMostBudget;
-    return std::min(kMostBudget, static_cast<std::size_t>(limit.rlim_cur) / 2);
+    const std::size_t size = stackSizeOfThisThread();
+    const std::size_t reserve = std::max(kReserve, size / 8);
+    return size > 2 * reserve ? size - reserve : size / 2;
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace orrery::shell::eval {
 class StackBudget {
 public:
     /// Opens the budget at the caller's stack position when none is open; the
-    /// budget is half the thread's stack limit, at most 4 MiB.
+    /// budget is the thread's stack less a reserve of an eighth, at least 2 MiB.
     StackBudget();
     ~StackBudget();
     StackBudget(const StackBudget&) = delete;

@@ -24,7 +24,10 @@ namespace orrery::shell::eval {
 void recordLastError(const except::QException& error);
 
 /// What an uncaught error prints: "Error: <message>\n", or "Error using
-/// <function>\n<message>\n" when the error names its function.
+/// <function>\n<message>\n" when the error names its function; then
+/// "Error in <name> (line <n>)\n" when the innermost frame of its stack has a
+/// name and a line (a script run from a file is a frame; the prompt and -e
+/// text are not).
 std::string uncaughtErrorText(const except::QException& error);
 
 }  // namespace orrery::shell::eval

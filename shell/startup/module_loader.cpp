@@ -31,6 +31,8 @@ std::u16string pathText(const std::filesystem::path& path) { return text::utf8To
 
 }  // namespace
 
+std::span<const BuiltinBinding> moduleBindings() { return kBindings; }
+
 std::filesystem::path locateModule() {
     if (const char* configured = std::getenv("ORRERY_MODULE_PATH"); configured != nullptr && *configured != '\0') {
         std::filesystem::path path(configured);
@@ -39,7 +41,12 @@ std::filesystem::path locateModule() {
     }
     std::error_code failed;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", failed);
-    return failed ? std::filesystem::path(kModuleFile) : program.parent_path() / kModuleFile;
+    if (failed) return kModuleFile;
+    std::filesystem::path built = program.parent_path() / kModuleFile;
+    std::filesystem::path installed = (program.parent_path() / ORRERY_INSTALLED_MODULE).lexically_normal();
+    std::error_code ignored;
+    if (!std::filesystem::exists(built, ignored) && std::filesystem::exists(installed, ignored)) return installed;
+    return built;
 }
 
 void DiagnosticModule::Closer::operator()(void* handle) const noexcept { dlclose(handle); }

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string_view>
 
 namespace orrery::shell::startup {
@@ -14,8 +15,13 @@ struct BuiltinBinding {
     const char* symbol;
 };
 
+/// The module's built-ins the loader binds, each language name with its symbol.
+std::span<const BuiltinBinding> moduleBindings();
+
 /// Where the module is: $ORRERY_MODULE_PATH (the file, or a folder holding
-/// libdiagnostic.so) when set, else libdiagnostic.so beside the running program.
+/// libdiagnostic.so) when set, else libdiagnostic.so beside the running program
+/// (as built), else the module's installed place relative to the program
+/// (ORRERY_INSTALLED_MODULE); when neither exists, the one beside the program.
 std::filesystem::path locateModule();
 
 /// The diagnostic module, open and initialised for as long as the object lives.

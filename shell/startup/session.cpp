@@ -40,6 +40,7 @@ int exitStatus(RunOutcome outcome) {
     switch (outcome) {
         case RunOutcome::Completed: return 0;
         case RunOutcome::UserError: return 1;
+        case RunOutcome::UsageError: return 2;
         case RunOutcome::InternalFault: return 70;
     }
     return 70;
@@ -64,6 +65,11 @@ RunOutcome runAtTopLevel(const std::function<void()>& body) {
         reportInternalError("an exception of unknown type");
     }
     return RunOutcome::InternalFault;
+}
+
+RunOutcome runUsageStep(const std::function<void()>& body) {
+    const RunOutcome outcome = runAtTopLevel(body);
+    return outcome == RunOutcome::UserError ? RunOutcome::UsageError : outcome;
 }
 
 RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, const std::u16string& sourceName,

@@ -12,10 +12,10 @@
 namespace orrery::shell::startup {
 
 /// How a top-level run ended.
-enum class RunOutcome { Completed, UserError, InternalFault };
+enum class RunOutcome { Completed, UserError, UsageError, InternalFault };
 
-/// The exit status of a script that ended so: 0, 1 after an uncaught error, 70
-/// after an internal fault.
+/// The exit status of a run that ended so: 0, 1 after an uncaught error, 2
+/// after a wrong command line or start-up setting, 70 after an internal fault.
 int exitStatus(RunOutcome outcome);
 
 /// Runs body at the top level. eval::ExitRequest passes through. An error that escapes it is recorded as the
@@ -23,6 +23,10 @@ int exitStatus(RunOutcome outcome);
 /// is printed as "Internal error: ..." and recorded nowhere. Either way the
 /// session can go on.
 RunOutcome runAtTopLevel(const std::function<void()>& body);
+
+/// Runs a step that reads the command line or applies start-up settings, as
+/// runAtTopLevel does, except that an error it reports is a usage error.
+RunOutcome runUsageStep(const std::function<void()>& body);
 
 /// Parses and runs source text at the top level. A non-empty frameName runs
 /// it as a script (inside a call-stack frame).

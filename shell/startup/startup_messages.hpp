@@ -16,5 +16,18 @@ ORRERY_MESSAGE_KEY(CannotRead, "ORRERY:shell:cannotRead");
 /// {0}: the option.
 ORRERY_MESSAGE_KEY(UnknownOption, "ORRERY:shell:unknownOption");
 ORRERY_MESSAGE_KEY(MissingText, "ORRERY:shell:missingText");
+/// {0}: the option.
+ORRERY_MESSAGE_KEY(MissingValue, "ORRERY:shell:missingValue");
+/// {0}: the argument.
+ORRERY_MESSAGE_KEY(ExtraArgument, "ORRERY:shell:extraArgument");
+/// {0}: the setting as written; {1}: where it was given (-W or ORRERY_WARNINGS).
+ORRERY_MESSAGE_KEY(BadWarningSetting, "ORRERY:shell:badWarningSetting");
+/// {0}: the setting; {1}: where it was given; {2}: the warning built-in's message.
+ORRERY_MESSAGE_KEY(RefusedWarningSetting, "ORRERY:shell:refusedWarningSetting");
+/// {0}: the format asked for.
+ORRERY_MESSAGE_KEY(BadSummaryFormat, "ORRERY:shell:badSummaryFormat");
+ORRERY_MESSAGE_KEY(FormatWithoutSummary, "ORRERY:shell:formatWithoutSummary");
+/// {0}: the log file; {1}: the reader's identifier; {2}: its message.
+ORRERY_MESSAGE_KEY(LogSummaryFailed, "ORRERY:shell:logSummaryFailed");
 
 }  // namespace orrery::shell::startup

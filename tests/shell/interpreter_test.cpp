@@ -6,6 +6,7 @@
 #include "shell/eval/interpreter.hpp"
 
 #include "shell/lang/parser.hpp"
+#include "shell/startup/large_stack.hpp"
 #include "tests/support/builtin_call.hpp"
 #include "tests/support/expect_error.hpp"
 
@@ -170,28 +171,28 @@ TEST_F(InterpreterTest, RefusesWhatObjectsDoNotOffer) {
     EXPECT_EQ(run("big.size"), "ans = 2\n") << "the refused write changed nothing";
 }
 
-TEST_F(InterpreterTest, MissingOutputsAreErrors) {
+// The other errors of the interpreter are shown by the interpreter_errors script.
+TEST_F(InterpreterTest, MissingOutputsOfBuiltinsAreErrors) {
     EXPECT_QEXCEPTION(run("x = probeNothing;"), "ORRERY:shell:noOutput",
                       "The function 'probeNothing' returns no value.");
     EXPECT_QEXCEPTION(run("[a, b, c, d] = probeOutputs;"), "ORRERY:shell:outputNotSet",
                       "The output '4' of 'probeOutputs' was not set.");
-    EXPECT_QEXCEPTION(run("function y = g\nend\nx = g();"), "ORRERY:shell:outputNotSet",
-                      "The output 'y' of 'g' was not set.");
-}
-
-TEST_F(InterpreterTest, UncaughtErrorsCarryTheStackWhereTheyHappened) {
-    const auto error = userErrorOf([&] { run("function f()\n  [1 2] + [1 2 3];\nend\nf();\n"); });
-    EXPECT_TRUE(interp::currentFrames().empty());
-    EXPECT_EQ(error.identifier(), "ORRERY:shell:sizeMismatch");
-    ASSERT_EQ(error.stack().numel(), 2u);
-    EXPECT_EQ(error.stack().field(0, "name")->textUtf8(), "f");
-    EXPECT_EQ(error.stack().field(0, "line")->realAt(0), 2);
-    EXPECT_EQ(error.stack().field(1, "name")->textUtf8(), "script");
 }
 
 TEST_F(InterpreterTest, EndlessRecursionIsAnError) {
-    EXPECT_QEXCEPTION(run("function f(n)\n  f(n + 1);\nend\nf(1);"), "ORRERY:shell:recursionLimit",
-                      "Function calls nest more than 128 deep; the recursion may never end.");
+    // On the session's stack the call limit ends it; sanitizer builds have a
+    // smaller stack and larger frames, so the stack guard ends it first there.
+#ifdef ORRERY_ADDRESS_SANITIZER
+    const std::string expected = "ORRERY:shell:tooDeepToRun";
+#else
+    const std::string expected = "ORRERY:shell:recursionLimit";
+#endif
+    std::string identifier;
+    shell::startup::runOnLargeStack([&] {
+        identifier = userErrorOf([&] { run("function f(n)\n  f(n + 1);\nend\nf(1);"); }).identifier();
+        return 0;
+    });
+    EXPECT_EQ(identifier, expected);
     EXPECT_TRUE(interp::currentFrames().empty());
 }
 
@@ -207,9 +208,4 @@ TEST_F(InterpreterTest, NestingTooDeepForTheStackIsAnError) {
         "function r = f(n)\n  if n > 0\n    r = " + sum + ";\n  else\n    r = 0;\n  end\nend\nf(127);";
     EXPECT_EQ(userErrorOf([&] { run(program); }).identifier(), "ORRERY:shell:tooDeepToRun");
     EXPECT_TRUE(interp::currentFrames().empty());
-}
-
-TEST_F(InterpreterTest, EndInCallArgumentsIsAnError) {
-    EXPECT_QEXCEPTION(run("probeOutputs(end)"), "ORRERY:shell:endInCall",
-                      "'end' can only be used in an index of a variable, not in the arguments of 'probeOutputs'.");
 }

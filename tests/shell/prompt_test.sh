@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Drives the orrery prompt through a pseudo-terminal (tmux): results show, an
-# error is reported and the session goes on, a block typed over several lines
-# runs once complete, each line reaches the history file as it is entered,
+# error is reported and the session goes on, help answers, a block typed over
+# several lines runs once complete, each line reaches the history file as it is entered,
 # Ctrl-C stops a loop (even inside try) and drops a half-typed line or block
 # without ending the session, text typed or piped in keeps its UTF-8
 # characters, and `exit` ends it.
@@ -54,6 +54,8 @@ send 'undefinedName(1)'
 wait_for "Error: 'undefinedName' is not a defined function or variable."
 send 'y = x + 1'
 wait_for 'y = 42'
+send 'help lastwarn'
+wait_for 'lastwarn: the message and identifier of the last warning'
 send 'for k = 1:2'
 send 'disp(k * 10)'
 send 'end'

@@ -17,6 +17,12 @@
 
 namespace orrery::testing {
 
+// The value names every built-in test uses; `using namespace orrery::testing`
+// brings them with the helpers below.
+using value::ClassId;
+using value::Dims;
+using value::ValueArray;
+
 /// Owns a list of input values and the pointer array a built-in borrows.
 class InputList {
 public:

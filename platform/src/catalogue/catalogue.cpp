@@ -20,6 +20,7 @@
 #include <mutex>
 #include <optional>
 #include <stdexcept>
+#include <system_error>
 #include <vector>
 
 namespace orrery::catalogue {
@@ -104,7 +105,13 @@ std::string catalogueFolder() {
     if (const char* overridden = std::getenv("ORRERY_CATALOGUE_DIR")) return overridden;
     Dl_info info{};
     if (dladdr(reinterpret_cast<void*>(&catalogueFolder), &info) == 0 || info.dli_fname == nullptr) return "catalogue";
-    return (std::filesystem::path(info.dli_fname).parent_path() / "catalogue").string();
+    const std::filesystem::path libraryFolder = std::filesystem::path(info.dli_fname).parent_path();
+    const std::filesystem::path built = libraryFolder / "catalogue";
+    const std::filesystem::path installed = libraryFolder / "orrery" / "catalogue";
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(built, ignored) && std::filesystem::is_directory(installed, ignored))
+        return installed.string();
+    return built.string();
 }
 
 bool hasMessage(std::string_view identifier) { return lookupPattern(identifier).has_value(); }

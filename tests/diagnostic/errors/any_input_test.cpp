@@ -12,10 +12,7 @@
 #include <cmath>
 
 using namespace orrery;
-using orrery::testing::chars;
-using value::ClassId;
-using value::Dims;
-using value::ValueArray;
+using namespace orrery::testing;
 
 namespace {
 

@@ -1,5 +1,5 @@
-// Tests of error and assert through the built-in signature, and the argument
-// counts of every error built-in.
+// Tests of error and assert through the built-in signature (argument counts and
+// the script-visible forms are shown by the last_error and error_forms scripts).
 #include "diagnostic/errors/error_builtins.hpp"
 
 #include "tests/support/builtin_call.hpp"
@@ -12,12 +12,7 @@
 
 using namespace orrery;
 using except::QException;
-using orrery::testing::callBuiltin;
-using orrery::testing::chars;
-using orrery::testing::structOf;
-using value::ClassId;
-using value::Dims;
-using value::ValueArray;
+using namespace orrery::testing;
 
 namespace {
 
@@ -44,21 +39,6 @@ void expectOutcome(value::BuiltinFunction builtin, const Case& c) {
 }
 
 }  // namespace
-
-TEST(ArgumentCounts, AreCheckedBeforeAnythingElse) {
-    const auto text = chars("a:b");
-    const auto structure = structOf({});
-    const std::pair<value::BuiltinFunction, Case> cases[] = {
-        {&bnFullAssertFcn, {"assert with an output", {ValueArray::logicalScalar(true)}, "ORRERY:tooManyOutputs", 1}},
-        {&bnStructRethrowFcn, {"rethrow with two", {structure, structure}, "ORRERY:tooManyInputs"}},
-        {&bnStructRethrowFcn, {"rethrow with an output", {structure}, "ORRERY:tooManyOutputs", 1}},
-        {&bnLastErrMsg, {"lasterr with three outputs", {}, "ORRERY:tooManyOutputs", 3}},
-        // Counted before the flag is looked at.
-        {&bnLastErrMsg, {"lasterr with three inputs", {chars("-hotlinks"), text, text}, "ORRERY:tooManyInputs"}},
-        {&bnLastErrorFcn, {"lasterror with two inputs", {chars("reset"), chars("reset")}, "ORRERY:tooManyInputs"}},
-    };
-    for (const auto& [builtin, c] : cases) expectOutcome(builtin, c);
-}
 
 TEST(ErrorBuiltin, EmptyMessagesOfSomeClassesDoNothing) {
     const auto info = std::make_shared<ocos::COSClassInfo>("probe.Thing");

@@ -11,14 +11,7 @@
 using namespace orrery;
 using diagnostic::readErrorStructure;
 using diagnostic::validateStack;
-using orrery::testing::callBuiltin;
-using orrery::testing::chars;
-using orrery::testing::Frame;
-using orrery::testing::stackOf;
-using orrery::testing::structOf;
-using value::ClassId;
-using value::Dims;
-using value::ValueArray;
+using namespace orrery::testing;
 
 namespace {
 

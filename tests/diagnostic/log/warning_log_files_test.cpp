@@ -2,6 +2,7 @@
 // name, and failures of the file system.
 #include "diagnostic/log/log_output_stream.hpp"
 #include "diagnostic/log/warning_element.hpp"
+#include "diagnostic/log/warning_log_reader.hpp"
 #include "diagnostic/log/warning_log_xml.hpp"
 #include "diagnostic/warnings/issued_warning_signal.hpp"
 
@@ -13,16 +14,24 @@
 #include <orrery/text/text.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 using namespace orrery;
+using lang::diagnostic::LogFileDescriptor;
 using lang::diagnostic::Warning;
 using lang::diagnostic::WarningLogXML;
 using test::fileBytes;
@@ -114,37 +123,6 @@ TEST(WarningLogFile, ANewLogIsACompleteEmptyDocumentAndAReopenedOneTakesTheNextW
     test::expectWellFormedXml(path);
 }
 
-// A file that is there but no log, a folder, or a new log that cannot be created:
-// none is opened, and a second attempt fails the same way.
-TEST(WarningLogFile, AFileThatIsNoLogOrCannotBeMadeIsNeitherOpenedNorChanged) {
-    const test::TemporaryWorkingFolder folder;
-    struct Case {
-        const char* name;
-        std::string bytes;
-        const char* identifier;
-    };
-    const Case cases[] = {
-        {"truncated.xml", kHeader + "    <warning identifier=\"a:b\"", "ORRERY:warning:XMLParser:ParseError"},
-        {"empty.xml", "", "ORRERY:warning:XMLParser:ParseError"},
-        {"other.xml", "<?xml version=\"1.0\"?>\n<html></html>\n", "ORRERY:warning:XMLParser:UnknownElement"},
-        {"lone.xml", "<warning identifier=\"\" wasDisabled=\"true\" time=\"\"/>\n", "ORRERY:warning:LogFile:FileSeek"},
-    };
-    WarningLogXML log;
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const std::u16string path = folder.file(c.name);
-        std::ofstream(text::utf16ToUtf8(path), std::ios_base::binary) << c.bytes;
-        for (int attempt = 0; attempt < 2; ++attempt) EXPECT_MSGID(log.openLog(path), c.identifier);
-        EXPECT_EQ(fileBytes(path), c.bytes);
-    }
-    std::filesystem::create_directory("folder.xml");
-    EXPECT_MSGID_ARGS(log.openLog(u"folder.xml"), "ORRERY:warning:LogFile:OpenFileAppend",
-                      (Arguments{folder.file("folder.xml"), std::u16string(u"Is a directory")}));
-    for (int attempt = 0; attempt < 2; ++attempt)
-        EXPECT_MSGID_ARGS(log.openLog(u"missing/x"), "ORRERY:warning:LogFile:OpenFileWrite",
-                          (Arguments{folder.file("missing/x.xml"), std::u16string(u"No such file or directory")}));
-}
-
 // ---- opening and closing by name ---------------------------------------------------------------
 
 TEST(WarningLogFile, IsOpenedWrittenAndClosedByItsNormalisedNameWhateverItsSpelling) {
@@ -173,30 +151,231 @@ TEST(WarningLogFile, IsOpenedWrittenAndClosedByItsNormalisedNameWhateverItsSpell
 
 // ---- failures of the file system -----------------------------------------------------------
 
-TEST(WarningLogFile, AFailedWriteRaisesFileWriteSkipsTheLaterStepsAndLeavesEarlierWarningsInPlace) {
-    const test::TemporaryWorkingFolder folder;
-    const std::u16string path = folder.file("full.xml");
+namespace {
+
+/// Makes a file or folder one that this process cannot change while it lives: the
+/// immutable attribute for root, whom permissions do not stop, else the given
+/// permissions. made() is false where neither can be set.
+class Unchangeable {
+public:
+    Unchangeable(std::filesystem::path path, std::filesystem::perms permissions) : path_(std::move(path)) {
+        if (::geteuid() != 0) {
+            previous_ = std::filesystem::status(path_).permissions();
+            std::filesystem::permissions(path_, permissions);
+            made_ = true;
+        } else {
+            made_ = setImmutable(true);
+        }
+    }
+    ~Unchangeable() {
+        if (!made_) return;
+        if (::geteuid() != 0)
+            std::filesystem::permissions(path_, previous_);
+        else
+            setImmutable(false);
+    }
+    Unchangeable(const Unchangeable&) = delete;
+    Unchangeable& operator=(const Unchangeable&) = delete;
+    bool made() const noexcept { return made_; }
+
+private:
+    bool setImmutable(bool on) {
+        const LogFileDescriptor file(::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+        int flags = 0;
+        if (!file.isOpen() || ::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0) return false;
+        flags = on ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
+        return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
+    }
+
+    std::filesystem::path path_;
+    std::filesystem::perms previous_{};
+    bool made_ = false;
+};
+
+/// One log object, a log file where the fault strikes and a witness log opened first.
+struct FaultScene {
     WarningLogXML log;
-    log.openLog(path);
-    warnWithoutArguments(log, "test:kept");
-    const std::string before = fileBytes(path);
+    std::u16string target;
+
+    void warn(const std::string& identifier) { warnWithoutArguments(log, identifier); }
+    void openWithOneWarning() {
+        log.openLog(target);
+        warn("test:kept");
+    }
+    /// The identifiers of the warnings in the log at path, which must be exactly a
+    /// log (nothing after its footer).
+    static std::vector<std::string> identifiersIn(const std::u16string& path) {
+        std::vector<std::string> identifiers;
+        for (const Warning& warning : lang::diagnostic::readWarningLogFile(path))
+            identifiers.push_back(warning.getIdentifier());
+        test::expectWellFormedXml(path);
+        return identifiers;
+    }
+};
+
+using Identifiers = std::vector<std::string>;
+using FaultGuard = std::shared_ptr<void>;
+
+struct FaultCase {
+    const char* what;
+    std::function<void(FaultScene&)> arrange;
+    /// Makes the fault until the guard goes; no guard where this process cannot.
+    std::function<FaultGuard(FaultScene&)> fault;
+    /// Meets the fault: raises identifier (with failureText as the system's text,
+    /// when given), or nothing when identifier is null.
+    std::function<void(FaultScene&)> meet;
+    const char* identifier;
+    const char16_t* failureText;
+    /// Once the fault is gone: what the log and the file are then.
+    std::function<void(FaultScene&)> afterwards;
+};
+
+FaultGuard fileSizeLimit(rlim_t limit) { return std::make_shared<FileSizeLimit>(limit); }
+FaultGuard unchangeable(const std::u16string& path, std::filesystem::perms permissions) {
+    auto guard = std::make_shared<Unchangeable>(text::utf16ToUtf8(path), permissions);
+    return guard->made() ? guard : nullptr;
+}
+FaultGuard noGuardNeeded(FaultScene&) { return std::make_shared<int>(); }
+void openTarget(FaultScene& scene) { scene.log.openLog(scene.target); }
+void writeFile(const std::u16string& path, const std::string& bytes) {
+    std::ofstream(text::utf16ToUtf8(path), std::ios_base::binary) << bytes;
+}
+// A file that is no log stays as it is, and a second open fails the same way.
+std::function<void(FaultScene&)> refusedAgain(const char* identifier) {
+    return [identifier](FaultScene& scene) { EXPECT_MSGID(openTarget(scene), identifier); };
+}
+// The log is healthy again: it holds the warning before the fault and the next one.
+void keptAndNext(FaultScene& scene) {
+    EXPECT_EQ(FaultScene::identifiersIn(scene.target), (Identifiers{"test:kept", "test:next"}));
+}
+// The log opens now and takes the warnings issued from then on after what it held.
+std::function<void(FaultScene&)> opensNowAfter(Identifiers held) {
+    return [held](FaultScene& scene) mutable {
+        openTarget(scene);
+        scene.warn("test:after");
+        held.push_back("test:after");
+        EXPECT_EQ(FaultScene::identifiersIn(scene.target), held);
+    };
+}
+
+}  // namespace
+
+// Every fault raises its identifier, changes no byte already in a file, and
+// leaves the log object working: the next warning is issued and reaches the
+// witness log, and the faulty log too once the fault is gone.
+TEST(WarningLogFile, EachFaultRaisesItsIdentifierKeepsWhatIsOnDiskAndLetsTheNextWarningThrough) {
+    const test::TemporaryWorkingFolder folder;
+    const std::string notALog = "<?xml version=\"1.0\"?>\n<html></html>\n";
+    const FaultCase cases[] = {
+        {"the disk is full where the element goes", &FaultScene::openWithOneWarning,
+         [](FaultScene& scene) { return fileSizeLimit(fileBytes(scene.target).size() - kFooter.size()); },
+         [](FaultScene& scene) { scene.warn("test:lost"); }, "ORRERY:warning:LogFile:FileWrite", u"File too large",
+         keptAndNext},
+        {"the disk fills in the middle of an element", &FaultScene::openWithOneWarning,
+         [](FaultScene& scene) { return fileSizeLimit(fileBytes(scene.target).size() + 100); },
+         [](FaultScene& scene) {
+             scene.log.warn(warning::utGetWarningManagerContext(), "test:lost", u"", 0, nullptr,
+                            std::u16string(20000, u'\u00e9'), false);
+         },
+         "ORRERY:warning:LogFile:FileWrite", u"File too large", keptAndNext},
+        {"a truncated log", [&](FaultScene& scene) { writeFile(scene.target, kHeader + "    <warning id"); },
+         noGuardNeeded, openTarget, "ORRERY:warning:XMLParser:ParseError", nullptr,
+         refusedAgain("ORRERY:warning:XMLParser:ParseError")},
+        {"an empty file", [&](FaultScene& scene) { writeFile(scene.target, ""); }, noGuardNeeded, openTarget,
+         "ORRERY:warning:XMLParser:ParseError", nullptr, refusedAgain("ORRERY:warning:XMLParser:ParseError")},
+        {"a file that is no log", [&](FaultScene& scene) { writeFile(scene.target, notALog); }, noGuardNeeded,
+         openTarget, "ORRERY:warning:XMLParser:UnknownElement", nullptr,
+         refusedAgain("ORRERY:warning:XMLParser:UnknownElement")},
+        {"a lone warning without a log around it",
+         [&](FaultScene& scene) {
+             writeFile(scene.target, "<warning identifier=\"\" wasDisabled=\"true\" time=\"\"/>\n");
+         },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:FileSeek", nullptr,
+         refusedAgain("ORRERY:warning:LogFile:FileSeek")},
+        {"a folder named like a log",
+         [](FaultScene& scene) { std::filesystem::create_directory(text::utf16ToUtf8(scene.target)); }, noGuardNeeded,
+         openTarget, "ORRERY:warning:LogFile:OpenFileAppend", u"Is a directory",
+         refusedAgain("ORRERY:warning:LogFile:OpenFileAppend")},
+        {"a folder that does not exist", [&](FaultScene& scene) { scene.target = folder.file("missing/target.xml"); },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:OpenFileWrite", u"No such file or directory",
+         refusedAgain("ORRERY:warning:LogFile:OpenFileWrite")},
+        {"a folder that cannot be written",
+         [&](FaultScene& scene) {
+             std::filesystem::create_directory("locked");
+             scene.target = folder.file("locked/target.xml");
+         },
+         [&](FaultScene&) {
+             return unchangeable(folder.file("locked"),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+         },
+         openTarget, "ORRERY:warning:LogFile:OpenFileWrite", nullptr, opensNowAfter({})},
+        {"a log that may not be opened for update",
+         [](FaultScene& scene) {
+             scene.openWithOneWarning();
+             scene.log.closeLog(scene.target);
+         },
+         [](FaultScene& scene) { return unchangeable(scene.target, std::filesystem::perms::none); }, openTarget,
+         "ORRERY:warning:LogFile:OpenFileAppend", nullptr, opensNowAfter({"test:kept"})},
+        // The log is the file that was opened: it goes on receiving warnings, and its
+        // name, once free or taken by another file, is not written to.
+        {"a log deleted while open", &FaultScene::openWithOneWarning,
+         [](FaultScene& scene) {
+             std::filesystem::remove(text::utf16ToUtf8(scene.target));
+             return noGuardNeeded(scene);
+         },
+         [](FaultScene& scene) { scene.warn("test:unseen"); }, nullptr, nullptr,
+         [](FaultScene& scene) {
+             EXPECT_FALSE(std::filesystem::exists(text::utf16ToUtf8(scene.target)));
+             scene.log.closeLog(scene.target);
+             opensNowAfter({})(scene);
+         }},
+        {"a log replaced while open", &FaultScene::openWithOneWarning,
+         [&](FaultScene& scene) {
+             writeFile(u"replacement.xml", notALog);
+             std::filesystem::rename("replacement.xml", text::utf16ToUtf8(scene.target));
+             return noGuardNeeded(scene);
+         },
+         [](FaultScene& scene) { scene.warn("test:unseen"); }, nullptr, nullptr,
+         [&](FaultScene& scene) { EXPECT_EQ(fileBytes(scene.target), notALog); }},
+    };
 
     int signalled = 0;
     const boost::signals2::scoped_connection slot =
         builtins::connectIssuedWarningCallback([&](const Warning&) { ++signalled; });
-    int callbacks = 0;
-    warning::utRegisterWarningCallback(warning::utGetWarningManagerContext(), [&] { ++callbacks; });
-    {
-        // No byte may go past the footer's start: the disk is full where the next warning goes.
-        const FileSizeLimit full(before.size() - kFooter.size());
-        EXPECT_MSGID_ARGS(warnWithoutArguments(log, "test:lost"), "ORRERY:warning:LogFile:FileWrite",
-                          (Arguments{path, std::u16string(u"File too large")}));
-        EXPECT_EQ(fileBytes(path), before);
-        log.closeLog(path);
+    int number = 0;
+    for (const FaultCase& c : cases) {
+        SCOPED_TRACE(c.what);
+        FaultScene scene;
+        scene.target = folder.file("target" + std::to_string(++number) + ".xml");
+        const std::u16string witness = folder.file("witness" + std::to_string(number) + ".xml");
+        scene.log.openLog(witness);
+        c.arrange(scene);
+        const bool wasAFile = std::filesystem::is_regular_file(text::utf16ToUtf8(scene.target));
+        const std::string before = wasAFile ? fileBytes(scene.target) : std::string();
+        const int signalledBefore = signalled;
+        {
+            const FaultGuard guard = c.fault(scene);
+            if (!guard) {
+                std::cout << "not run, the process cannot make the fault: " << c.what << '\n';
+                continue;
+            }
+            if (c.identifier == nullptr) {
+                EXPECT_NO_THROW(c.meet(scene));
+            } else {
+                ORRERY_EXPECT_RAISED(c.meet(scene), except::IMsgIDException, c.identifier, {
+                    EXPECT_EQ(failure__.identifier(), std::string(c.identifier));
+                    if (c.failureText != nullptr) {
+                        EXPECT_EQ(failure__.key().arguments, (Arguments{scene.target, std::u16string(c.failureText)}));
+                    }
+                });
+                EXPECT_EQ(signalled, signalledBefore) << "the steps after a failed write ran";
+                if (wasAFile) {
+                    EXPECT_EQ(fileBytes(scene.target), before);
+                }
+            }
+        }
+        EXPECT_NO_THROW(scene.warn("test:next"));
+        EXPECT_EQ(FaultScene::identifiersIn(witness).back(), "test:next");
+        c.afterwards(scene);
     }
-    warning::utRegisterWarningCallback(warning::utGetWarningManagerContext(), nullptr);
-    EXPECT_EQ(signalled, 0);
-    EXPECT_EQ(callbacks, 0);
-    EXPECT_EQ(fileBytes(path), before);
-    test::expectWellFormedXml(path);
 }

@@ -179,6 +179,14 @@ TEST_F(WarningLogReader, MissingAndUnreadableFilesRaiseTheirLogFileIdentifiers) 
                       (std::vector<MessageArgument>{folder, u"Is a directory"}));
 }
 
+// What a warning whose writing was cut short leaves after the footer is not read.
+TEST_F(WarningLogReader, StopsAtTheEndOfTheDocument) {
+    const std::string content = logWithWarning("<message>m</message><format></format>");
+    const std::string cut = content + "rning identifier=\"a:b\" wasDis" + std::string(3000, '\0');
+    EXPECT_EQ(read(cut).size(), 1U);
+    EXPECT_EQ(findLogEnd(fileWith(cut)), content.size() - kFooter.size());
+}
+
 // The file is fed in blocks of 1024 bytes: a short last block, or an empty final
 // one after a full block, reads the same.
 TEST_F(WarningLogReader, ReadsTheSameAcrossTheBlockBoundary) {

@@ -13,11 +13,7 @@
 using namespace orrery;
 using diagnostic::MessageInputAnalyzer;
 using diagnostic::MessageKind;
-using orrery::testing::chars;
-using orrery::testing::InputList;
-using value::ClassId;
-using value::Dims;
-using value::ValueArray;
+using namespace orrery::testing;
 
 namespace {
 

@@ -1,16 +1,15 @@
-// Tests of the state display: the identifier order and the listing of "all".
-#include "tests/diagnostic/warnings/warning_fixture.hpp"
-
+// Tests of the order in which the state display lists identifiers (the
+// listing itself is shown by the warning_states script).
 #include "diagnostic/warnings/state_display.hpp"
 
-using namespace orrery;
+#include <gtest/gtest.h>
+
+#include <string>
+#include <tuple>
+
 using orrery::diagnostic::identifierPrecedes;
-using orrery::testing::chars;
-using warning::WarningState;
 
 namespace {
-
-using StateDisplay = orrery::testing::WarningBuiltinTest;
 
 TEST(IdentifierOrder, SortsComponentByComponent) {
     const std::tuple<const char*, const char*, bool> cases[] = {
@@ -29,35 +28,6 @@ TEST(IdentifierOrder, SortsComponentByComponent) {
         SCOPED_TRACE(std::string(a) + " < " + b);
         EXPECT_EQ(identifierPrecedes(a, b), before);
     }
-}
-
-TEST_F(StateDisplay, AllWithoutExceptionsIsOneLine) {
-    warning::utSetWarningStatus(context, "ORRERY:same:state", WarningState::On);
-    warningCall(0, {chars("query")});
-    EXPECT_EQ(takeOutput(), "All warnings have the state 'on'.\n");
-    warningCall(0, {chars("off"), chars("all")});
-    warningCall(0, {chars("query"), chars("ALL")});
-    EXPECT_EQ(takeOutput(),
-              "The default warning state is 'off'. Warnings not set to the default are\n"
-              "\n  State  Warning Identifier\n\n"
-              "     on  ORRERY:same:state\n\n");
-}
-
-TEST_F(StateDisplay, AllListsTheExceptionsInIdentifierOrder) {
-    for (const char* identifier : {"ORRERY:z:last", "ab:c", "a-b:c", "a:b:c", "ORRERY:a:first"})
-        warning::utSetWarningStatus(context, identifier, WarningState::Off);
-    warning::utSetWarningStatus(context, "ORRERY:m:mid", WarningState::Error);
-    warningCall(0, {});
-    EXPECT_EQ(takeOutput(),
-              "The default warning state is 'on'. Warnings not set to the default are\n"
-              "\n  State  Warning Identifier\n\n"
-              "    off  ORRERY:a:first\n"
-              "  error  ORRERY:m:mid\n"
-              "    off  ORRERY:z:last\n"
-              "    off  a:b:c\n"
-              "    off  a-b:c\n"
-              "    off  ab:c\n\n");
-    EXPECT_EQ(takeError(), "");
 }
 
 }  // namespace

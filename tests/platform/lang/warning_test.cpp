@@ -15,9 +15,7 @@
 using orrery::lang::PrintfArgument;
 using orrery::lang::StackFrame;
 using orrery::lang::diagnostic::Warning;
-using orrery::testing::chars;
 using orrery::testing::row;
-using orrery::testing::stackOf;
 using orrery::value::ClassId;
 using orrery::value::Dims;
 using orrery::value::ValueArray;
@@ -92,65 +90,18 @@ TEST(Warning, StacksRoundTripThroughTheStackStructure) {
     }
 }
 
-TEST(Warning, SettersRefuseValuesOfAnotherShapeAndKeepTheRecord) {
+// The shapes a script can write are refused end to end in the warning_log_objects
+// script; these are the values the class system or a script cannot pass.
+TEST(Warning, SettersRefuseValuesOfAnotherKindAndKeepTheRecord) {
     const Warning original = record(1, "a:b", {std::int32_t{1}}, {{u"f", u"f", 1}});
-    auto lineUnset = ValueArray::stackStructure(1);
-    lineUnset.setField(0, "file", chars("f"));
-    lineUnset.setField(0, "name", chars("f"));
-    const struct {
-        const char* what;
-        bool stack;
-        ValueArray value;
-        const char* identifier;
-    } cases[] = {
-        {"arguments not a cell", false, row({1}), "ORRERY:warning:badArguments"},
-        {"arguments in a matrix", false, ValueArray::cell(Dims{2, 2}), "ORRERY:warning:badArguments"},
-        {"logical argument", false, cellOf({ValueArray::logicalScalar(true)}, Dims{1, 1}),
-         "ORRERY:warning:badArgument"},
-        {"int8 argument", false, cellOf({ValueArray::numericScalar(ClassId::Int8, 1)}, Dims{1, 1}),
-         "ORRERY:warning:badArgument"},
-        {"double row argument", false, cellOf({row({1, 2})}, Dims{1, 1}), "ORRERY:warning:badArgument"},
-        {"missing string argument", false, cellOf({ValueArray::missingString()}, Dims{1, 1}),
-         "ORRERY:warning:badArgument"},
-        {"stack not a struct", true, ValueArray::cell(Dims{1, 1}), "ORRERY:warning:badStack"},
-        {"stack in a matrix", true, ValueArray::structArray(Dims{2, 2}, {"file", "name", "line"}),
-         "ORRERY:warning:badStack"},
-        {"stack without line", true, ValueArray::structArray(Dims{1, 1}, {"file", "name"}), "ORRERY:warning:badStack"},
-        {"line unset", true, lineUnset, "ORRERY:warning:badStackFrame"},
-        {"numeric file", true, stackOf({{row({1}), chars("f"), row({1})}}), "ORRERY:warning:badStackFrame"},
-        {"negative line", true, stackOf({{chars("f"), chars("f"), row({-1})}}), "ORRERY:warning:badStackFrame"},
-        {"fractional line", true, stackOf({{chars("f"), chars("f"), row({1.5})}}), "ORRERY:warning:badStackFrame"},
-        {"line past 32 bits", true, stackOf({{chars("f"), chars("f"), row({4294967296.0})}}),
-         "ORRERY:warning:badStackFrame"},
-        {"NaN line", true, stackOf({{chars("f"), chars("f"), row({kNaN})}}), "ORRERY:warning:badStackFrame"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        Warning w = original;
-        if (c.stack) {
-            EXPECT_MSGID(w.setStack(&c.value), c.identifier);
-        } else {
-            EXPECT_MSGID(w.setArguments(&c.value), c.identifier);
-        }
-        EXPECT_EQ(w, original);
-    }
+    const ValueArray notCell = row({1});
+    const ValueArray missing = cellOf({ValueArray::missingString()}, Dims{1, 1});
+    const ValueArray notStruct = ValueArray::cell(Dims{1, 1});
     Warning w = original;
-    const auto second = cellOf({row({1}), ValueArray::logicalScalar(true)}, Dims{2, 1});
-    EXPECT_MSGID_TEXT(w.setArguments(&second), "ORRERY:warning:badArgument",
-                      "Argument 2 of a warning must be an int32, uint32, int64, uint64 or double scalar, or a text.");
-}
-
-TEST(Warning, SettersTakeTextsInEitherFormAndStacksInEitherOrientation) {
-    Warning w;
-    const auto texts = cellOf({ValueArray::string(u"s"), chars("c")}, Dims{2, 1});
-    w.setArguments(&texts);
-    EXPECT_EQ(w.getArguments(), (std::vector<PrintfArgument>{std::u16string(u"s"), std::u16string(u"c")}));
-    auto rowStack = ValueArray::structArray(Dims{1, 1}, {"line", "name", "file", "extra"});
-    rowStack.setField(0, "file", ValueArray::string(u"f"));
-    rowStack.setField(0, "name", chars("n"));
-    rowStack.setField(0, "line", ValueArray::numericScalar(ClassId::UInt8, 3));
-    w.setStack(&rowStack);
-    EXPECT_EQ(w.getStack(), (std::vector<StackFrame>{{u"f", u"n", 3}}));
+    EXPECT_MSGID(w.setArguments(&notCell), "ORRERY:warning:badArguments");
+    EXPECT_MSGID(w.setArguments(&missing), "ORRERY:warning:badArgument");
+    EXPECT_MSGID(w.setStack(&notStruct), "ORRERY:warning:badStack");
+    EXPECT_EQ(w, original);
 }
 
 TEST(Warning, TimestampTakesTheCurrentLocalTime) {

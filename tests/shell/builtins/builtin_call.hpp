@@ -8,9 +8,6 @@
 namespace builtin_test {
 
 using namespace orrery::testing;
-using orrery::value::ClassId;
-using orrery::value::Dims;
-using orrery::value::ValueArray;
 
 struct HostBuiltins : ::testing::Environment {
     void SetUp() override { orrery::shell::registerHostBuiltins(); }

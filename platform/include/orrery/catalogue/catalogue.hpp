@@ -24,7 +24,8 @@ ORRERY_API std::u16string formatMessage(std::string_view identifier, std::span<c
 ORRERY_API std::string formatMessageUtf8(std::string_view identifier, std::span<const MessageArgument> arguments = {});
 
 /// Folder that holds the compiled catalogue (root.res): $ORRERY_CATALOGUE_DIR if set,
-/// else the "catalogue" folder beside the platform library.
+/// else the "catalogue" folder beside the platform library (as built), else the
+/// "orrery/catalogue" folder beside it (as installed, next to the module).
 ORRERY_API std::string catalogueFolder();
 
 }  // namespace orrery::catalogue

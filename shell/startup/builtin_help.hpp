@@ -1,0 +1,40 @@
+// The reference texts of the diagnostic functions, one entry per language name,
+// kept beside the table that binds the module's built-ins, and the help
+// built-in that shows them.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace orrery::shell::startup {
+
+/// One function's reference. forms holds one call form per line, the call and
+/// what it does separated by a tab; outputs and example may span lines.
+struct HelpEntry {
+    std::string_view name;
+    std::string_view summary;
+    std::string_view forms;
+    std::string_view outputs;
+    std::string_view example;
+};
+
+/// Every entry, in the order help lists them.
+std::span<const HelpEntry> helpEntries();
+
+/// The entry of a language name (exact spelling), or null.
+const HelpEntry* findHelp(std::string_view name);
+
+/// What help alone prints: each name with its one-line summary.
+std::string helpListing();
+
+/// What help NAME prints: summary, forms, outputs and example; for a name
+/// without an entry, the line "No help for NAME.".
+std::string helpText(std::string_view name);
+
+/// Registers the help built-in in the function table: help lists the
+/// functions, help(NAME) describes one; with one output the text is returned
+/// as a char row instead of printed.
+void registerHelp();
+
+}  // namespace orrery::shell::startup

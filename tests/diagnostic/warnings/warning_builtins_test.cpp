@@ -1,0 +1,51 @@
+// Tests of the warning built-ins beyond what the warning_commands script shows:
+// the feature that lets all warnings be errors, and missing strings, which a
+// script cannot make.
+#include "diagnostic/warnings/warning_builtins.hpp"
+
+#include "tests/support/builtin_call.hpp"
+#include "tests/support/expect_error.hpp"
+
+#include <orrery/console/console_capture.hpp>
+#include <orrery/interp/virtual_machine.hpp>
+#include <orrery/services/services.hpp>
+#include <orrery/warning/warning_manager.hpp>
+
+using namespace orrery;
+using namespace orrery::testing;
+using warning::WarningState;
+
+namespace {
+
+// Each test has a machine of its own, so a fresh warning manager context.
+class WarningBuiltins : public ::testing::Test {
+protected:
+    const interp::VirtualMachineScope machine;
+    const console::ConsoleCapture console;
+    warning::WarningManagerContext* const context = warning::utGetWarningManagerContext();
+};
+
+TEST_F(WarningBuiltins, AllCanBeAnErrorOnlyWhenTheFeatureAllowsIt) {
+    EXPECT_MSGID(callBuiltin(&bnFullWarningFcn, 0, {chars("error"), chars("ALL")}),
+                 "ORRERY:warning:cannotUseAllWithError");
+    services::svSetFeature("AllWarningsCanBeErrors", true);
+    callBuiltin(&bnFullWarningFcn, 0, {chars("error"), chars("all")});
+    services::svUnregisterFeature("AllWarningsCanBeErrors");
+    EXPECT_EQ(warning::utGetWarningStatus(context, "all"), WarningState::Error);
+}
+
+TEST_F(WarningBuiltins, MissingStringsAreRefusedAndChangeNothing) {
+    const value::ValueArray missing = value::ValueArray::missingString();
+    const value::ValueArray states = structOf({{"identifier", chars("all")}, {"state", missing}});
+    EXPECT_MSGID(callBuiltin(&bnFullWarningFcn, 0, {chars("off"), missing}), "ORRERY:invalidInput");
+    EXPECT_MSGID(callBuiltin(&bnStructureWarningFcn, 0, {states}), "ORRERY:warning:nonStringState");
+    warning::utSetLastWarningMsg(context, "a:b", u"kept");
+    EXPECT_MSGID(callBuiltin(&bnLastWarningMsg, 0, {missing}), "ORRERY:string:MustBeSingleString");
+    EXPECT_EQ(warning::utGetWarningStatus(context, "all"), WarningState::On);
+    std::u16string message;
+    std::string identifier;
+    warning::utGetLastWarningMsg(context, message, identifier);
+    EXPECT_EQ(message, u"kept");
+}
+
+}  // namespace
