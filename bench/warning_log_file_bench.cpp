@@ -62,21 +62,10 @@ private:
     std::filesystem::path path_;
 };
 
-// Rendering the record and writing it before the footer, footer rewritten and flushed.
-void appendWarningToLog(benchmark::State& state) {
-    const ScratchFile file("bench_log.xml");
-    const auto log = orrery::lang::diagnostic::openLogForWriting(orrery::text::utf8ToUtf16(file.path()));
-    const Warning warning = typicalWarning();
-    for (auto _ : state)
-        log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(warning)));
-    state.SetItemsProcessed(state.iterations());
-}
-
-// The same with ORRERY_LOG_SYNC=1: each warning forced to the disk (two fdatasync
-// calls, one after each of the warning's two writes), over a floor that syncs once.
-void appendWarningToLogWithSync(benchmark::State& state) {
-    const ScratchFile file("bench_sync_log.xml");
-    ::setenv("ORRERY_LOG_SYNC", "1", 1);
+// Rendering the record and appending it to an open log, once per iteration.
+void appendWarnings(benchmark::State& state, const char* name, bool sync) {
+    const ScratchFile file(name);
+    if (sync) ::setenv("ORRERY_LOG_SYNC", "1", 1);
     const auto log = orrery::lang::diagnostic::openLogForWriting(orrery::text::utf8ToUtf16(file.path()));
     ::unsetenv("ORRERY_LOG_SYNC");
     const Warning warning = typicalWarning();
@@ -84,6 +73,12 @@ void appendWarningToLogWithSync(benchmark::State& state) {
         log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(warning)));
     state.SetItemsProcessed(state.iterations());
 }
+
+void appendWarningToLog(benchmark::State& state) { appendWarnings(state, "bench_log.xml", false); }
+
+// The same with ORRERY_LOG_SYNC=1: each warning forced to the disk (two fdatasync
+// calls, one after each of the warning's two writes), over a floor that syncs once.
+void appendWarningToLogWithSync(benchmark::State& state) { appendWarnings(state, "bench_sync_log.xml", true); }
 
 // The floor: one write() of the same rendered bytes per warning.
 void appendWarningToLogFloor(benchmark::State& state) {
