@@ -64,8 +64,7 @@ const std::u16string& logPath() {
         std::filesystem::remove(file);
         const std::u16string name = orrery::text::utf8ToUtf16(file.string());
         const auto log = orrery::lang::diagnostic::openLogForWriting(name);
-        for (const Warning& w : sessionRecords())
-            log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(w)));
+        for (const Warning& w : sessionRecords()) log->writeElement(orrery::lang::diagnostic::renderWarningElement(w));
         return name;
     }();
     return path;

@@ -39,9 +39,7 @@ Warning typicalWarning() {
     return warning;
 }
 
-std::string renderedWarning() {
-    return orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(typicalWarning()));
-}
+std::string renderedWarning() { return orrery::lang::diagnostic::renderWarningElement(typicalWarning()); }
 
 /// A file in the temporary folder, removed when the benchmark ends.
 class ScratchFile {
@@ -69,8 +67,7 @@ void appendWarnings(benchmark::State& state, const char* name, bool sync) {
     const auto log = orrery::lang::diagnostic::openLogForWriting(orrery::text::utf8ToUtf16(file.path()));
     ::unsetenv("ORRERY_LOG_SYNC");
     const Warning warning = typicalWarning();
-    for (auto _ : state)
-        log->writeElement(orrery::text::utf16ToUtf8(orrery::lang::diagnostic::renderWarningElement(warning)));
+    for (auto _ : state) log->writeElement(orrery::lang::diagnostic::renderWarningElement(warning));
     state.SetItemsProcessed(state.iterations());
 }
 

@@ -66,7 +66,7 @@ void fuzzUnescape(FuzzInput& in) {
 
 void fuzzEscapeRoundTrip(FuzzInput& in) {
     const std::u16string original = fuzz::textUnits(in);
-    const std::u16string escaped = escapeLogText(original);
+    const std::u16string escaped = text::utf8ToUtf16(escapeLogText(original));
     if (escaped.find_first_of(u"\n\r") != std::u16string::npos) finding("the escaped text holds a line break");
     if (unescapeLogText(decodeEntities(escaped)) != original) finding("unescaping does not undo the escape");
 }

@@ -8,12 +8,14 @@
 
 namespace orrery::lang::diagnostic {
 
-/// Opens the existing log file at path for update without truncation
-/// ("ORRERY:warning:LogFile:OpenFileAppend"); the next element goes where its
-/// footer starts, as findLogEnd finds it ("FileSeek" when it has none). A file
-/// that the reader rejects raises the reader's error and is not written to.
-/// Bytes after the footer (what a warning cut short left) are cut off after the
-/// next warning.
-std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path, LogSync sync);
+/// Takes the existing log file open at file (readable and writable) for
+/// appending. Under the file's lock it refuses a log that is not UTF-8
+/// ("ORRERY:warning:LogFile:NotUTF8" with the path and the encoding: a UTF-16
+/// or UTF-32 byte-order mark or layout, or a declaration naming another encoding)
+/// and finds where its footer starts with scanLog: a file that the reader rejects
+/// raises the reader's error, and one without a closing "log" tag "FileSeek". In
+/// every refusal the file is left as it was. Whatever follows the footer (what a
+/// warning cut short left) is cut off before the next warning.
+std::shared_ptr<LogOutputStream> appendToLog(const std::u16string& path, LogFileDescriptor file, LogSync sync);
 
 }  // namespace orrery::lang::diagnostic

@@ -6,7 +6,7 @@
 namespace orrery::lang::diagnostic {
 
 /// The name as an absolute, resolved path with the extension ".xml" (added when
-/// the name has none; any letter case of "xml" is kept as given). Raises
+/// the name as given has none; any letter case of "xml" is kept as given). Raises
 /// "ORRERY:warning:LogFile:EmptyName", "DirSpecified" or "BadExtension" before
 /// any file is touched.
 std::u16string normaliseLogFileName(const std::u16string& name);

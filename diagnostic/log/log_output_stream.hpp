@@ -3,6 +3,7 @@
 #pragma once
 
 #include "diagnostic/log/log_file_descriptor.hpp"
+#include "diagnostic/log/log_file_format.hpp"
 
 #include <cstdint>
 #include <memory>
@@ -18,29 +19,38 @@ enum class LogSync : bool { none, eachWarning };
 /// ORRERY_LOG_SYNC is "1", none otherwise.
 LogSync logSyncFromEnvironment();
 
-/// A warning log open for writing. Between warnings the file is a complete
-/// document whose footer starts at a known offset.
+/// A warning log open for writing, by this writer and perhaps by others (other
+/// processes, other names of the same file). Between warnings the file is a
+/// complete document.
 ///
-/// A warning goes in by two positioned writes: first the element without its
-/// first footer-length bytes, and the footer, after the old footer; then those
+/// Each warning is written under the file's exclusive lock (LogFileLock). Under
+/// the lock the writer first finds where the footer is now: where it left it when
+/// the file still has the size it left, else by looking from there (or, when the
+/// file has become shorter, from its start) for the first footer, after which
+/// only the remains of an append cut short may stand; those are cut off. A file
+/// emptied meanwhile is started afresh with the header and the footer.
+///
+/// The warning then goes in by two positioned writes: first the element without
+/// its first footer-length bytes, and the footer, after the old footer; then those
 /// first bytes over the old footer. Until the second write the document still
-/// ends at the old footer (the reader stops at the end of the document, so what
-/// stands after it is never read); the second write is too short to be cut, so
-/// a process killed at any moment leaves a file that loads and holds every
-/// warning whose write returned.
+/// ends at the old footer (what stands after it is the remains a reader ignores);
+/// the second write is too short to be cut, so a process killed at any moment
+/// leaves a file that loads and holds every warning whose write returned, and the
+/// system releases its lock.
 class LogOutputStream {
 public:
-    /// Takes over an open file whose footer starts at footerStart. bytesAfterFooter
-    /// tells that the file may hold bytes after its footer (left by a warning whose
-    /// writing was cut short); they are cut off after the next warning.
-    LogOutputStream(std::u16string path, LogFileDescriptor file, std::uint64_t footerStart, LogSync sync,
-                    bool bytesAfterFooter = false);
+    /// Takes over an open file (readable and writable) whose footer starts at
+    /// footerStart and whose size was fileSize when it was found there.
+    LogOutputStream(std::u16string path, LogFileDescriptor file, std::uint64_t footerStart, std::uint64_t fileSize,
+                    LogSync sync);
 
-    /// Writes the element (UTF-8) followed by the footer at the footer's start,
+    /// Writes the element (UTF-8) followed by the footer where the footer is now,
     /// and with LogSync::eachWarning forces both writes to the disk. Raises
-    /// "ORRERY:warning:LogFile:FileWrite" with the path and the system's text for
-    /// the error; the file is then put back as it was before the element, as far
-    /// as the system lets it (the footer stays in place in any case but a failing
+    /// "ORRERY:warning:LogFile:FooterMissing" with the path, writing nothing, when
+    /// the file no longer ends with a footer; "FileLock" when it cannot be locked;
+    /// "FileWrite" with the path and the system's text for a failed write. After a
+    /// failed write the file is put back as it was before the element, as far as
+    /// the system lets it (the footer stays in place in any case but a failing
     /// device), and the next warning goes where this one would have gone.
     void writeElement(std::string_view element);
 
@@ -48,33 +58,25 @@ public:
     const std::u16string& path() const noexcept { return path_; }
 
 private:
+    void locateFooter();
+    void startAfresh();
     void syncToDisk();
     void putBackFooter(bool footerOverwritten) noexcept;
-    void cutBytesAfterFooter() noexcept;
+    void cutAfterFooter();
 
     std::u16string path_;
     LogFileDescriptor file_;
     std::uint64_t footerStart_;
+    std::uint64_t fileSize_;  // the file's size as this writer last found or left it
     LogSync sync_;
-    bool bytesAfterFooter_;
-    std::string pending_;  // the element's rest and the footer, assembled for one write
+    std::string scratch_;  // bytes read while finding the footer
 };
 
-/// Writes all of bytes at offset, however many writes the system takes. Raises
-/// "ORRERY:warning:LogFile:FileWrite" with the path and the system's text for the
-/// error; the bytes written before the failure stay.
-void writeLogBytesAt(const LogFileDescriptor& file, std::uint64_t offset, std::string_view bytes,
-                     const std::u16string& path);
-
 /// Opens the log file at path (a name made by normaliseLogFileName) for writing,
-/// with the sync setting of logSyncFromEnvironment. A missing file is created
-/// holding the header and the footer, a complete empty document
-/// (createLogFile); an existing one is reopened before its footer (appendToLog).
+/// with the sync setting of logSyncFromEnvironment. Only a regular file is
+/// opened (openExistingLogFile); a missing one is created holding the header and
+/// the footer, a complete empty document (createLogFile), and an existing one is
+/// reopened before its footer (appendToLog).
 std::shared_ptr<LogOutputStream> openLogForWriting(const std::u16string& path);
-
-/// The first bytes of every log file: the XML declaration and the start tag of "log".
-inline constexpr std::string_view kLogHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<log>\n";
-/// The last bytes of every log file.
-inline constexpr std::string_view kLogFooter = "</log>\n";
 
 }  // namespace orrery::lang::diagnostic

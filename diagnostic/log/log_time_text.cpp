@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <limits>
 #include <optional>
 #include <string>
 
@@ -40,6 +41,7 @@ interp::UtcOffset currentUtcOffset() {
 // test compares the two over the awkward cases.
 //   "%04d-%02d-%02d %02d:%02d:%06.3f %+03d%02d" into a buffer of 32 characters
 constexpr std::size_t kBufferSize = 32;
+constexpr double kMillisecondsPerDay = 86400e3;
 
 // Appends digits (which may start with "-") as the C conversions "%0Nd", "%+0Nd"
 // and "%0N.3f" print them: the sign, zeros up to the width in all, the digits.
@@ -73,12 +75,10 @@ void appendSeconds(std::string& out, double seconds) {
     }
 }
 
-}  // namespace
-
-std::u16string logTimeText(double serial, interp::UtcOffset offset) {
+// Appends the text for serial and offset to out.
+void appendTimeText(std::string& out, double serial, interp::UtcOffset offset) {
     const interp::DateVector date = interp::calcDatevec(serial, 0);
-    std::string out;
-    out.reserve(kBufferSize + 16);
+    const std::size_t start = out.size();
     appendInteger(out, static_cast<std::int32_t>(date.year), 4);
     out += '-';
     appendInteger(out, static_cast<std::int32_t>(date.month), 2);
@@ -93,10 +93,37 @@ std::u16string logTimeText(double serial, interp::UtcOffset offset) {
     out += ' ';
     appendInteger(out, offset.hours, 3, true);
     appendInteger(out, offset.minutes, 2);
-    if (out.size() >= kBufferSize) out.resize(kBufferSize - 1);  // what the C buffer holds
-    return std::u16string(out.begin(), out.end());
+    if (out.size() - start >= kBufferSize) out.resize(start + kBufferSize - 1);  // what the C buffer holds
 }
 
-std::u16string logTimeText(double serial) { return logTimeText(serial, currentUtcOffset()); }
+}  // namespace
+
+std::string logTimeText(double serial, interp::UtcOffset offset) {
+    std::string out;
+    appendTimeText(out, serial, offset);
+    return out;
+}
+
+std::string logTimeText(double serial) { return logTimeText(serial, currentUtcOffset()); }
+
+// The text shows milliseconds, so a time that rounds to the millisecond of the
+// last one written, with the same offset, is written as that one was.
+void appendLogTimeText(std::string& out, double serial) {
+    struct Written {
+        double millisecond = std::numeric_limits<double>::quiet_NaN();
+        interp::UtcOffset offset{};
+        std::string text;
+    };
+    thread_local Written last;
+    const interp::UtcOffset offset = currentUtcOffset();
+    const double millisecond = std::round(serial * kMillisecondsPerDay);
+    if (millisecond != last.millisecond || offset != last.offset) {
+        last.text.clear();
+        appendTimeText(last.text, serial, offset);
+        last.millisecond = millisecond;
+        last.offset = offset;
+    }
+    out += last.text;
+}
 
 }  // namespace orrery::lang::diagnostic

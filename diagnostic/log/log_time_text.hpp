@@ -10,10 +10,15 @@ namespace orrery::lang::diagnostic {
 /// "YYYY-MM-DD hh:mm:ss.sss +hhmm": the serial day number split by calcDatevec,
 /// followed by the given offset from UTC. Hours and minutes of the offset are
 /// printed each with its own sign, so minus three and a half hours reads "-03-30".
-std::u16string logTimeText(double serial, interp::UtcOffset offset);
+std::string logTimeText(double serial, interp::UtcOffset offset);
 
 /// The same with the local standard-time offset from UTC at the moment of writing
 /// (interp::localUtcOffsetAt the current second), not at the warning's time.
-std::u16string logTimeText(double serial);
+std::string logTimeText(double serial);
+
+/// Appends logTimeText(serial) to out. The text of the last time written on this
+/// thread is kept and written again for the same time and offset (warnings issued
+/// within one clock tick).
+void appendLogTimeText(std::string& out, double serial);
 
 }  // namespace orrery::lang::diagnostic

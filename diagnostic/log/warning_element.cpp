@@ -1,62 +1,75 @@
-// One warning record as the "warning" element of a warning log.
+// One warning record as the "warning" element of a warning log, in UTF-8.
 #include "diagnostic/log/warning_element.hpp"
 
+#include "diagnostic/log/log_file_format.hpp"
 #include "diagnostic/log/log_text_escape.hpp"
 #include "diagnostic/log/log_time_text.hpp"
 
-#include <orrery/text/text.hpp>
-
+#include <charconv>
 #include <cstdint>
 #include <string_view>
 
 namespace orrery::lang::diagnostic {
 namespace {
 
-// The log's one indentation unit: elements of a warning stand one unit deeper.
-constexpr std::u16string_view kIndent = u"    ";
-// Room for the tags, the time and a few arguments and frames, reserved up front.
-constexpr std::size_t kTypicalElementLength = 512;
+// Leaf elements stand two indentation units deep.
+void appendLeafIndent(std::string& out) { out.append(kLogIndent).append(kLogIndent); }
 
-void appendLeaf(std::u16string& out, std::u16string_view tag, std::u16string_view text) {
-    out.append(kIndent).append(kIndent).append(u"<").append(tag).append(u">");
+void appendLeaf(std::string& out, std::string_view tag, std::u16string_view text) {
+    appendLeafIndent(out);
+    out.append("<").append(tag).append(">");
     appendEscapedLogText(out, text);
-    out.append(u"</").append(tag).append(u">\n");
+    out.append("</").append(tag).append(">\n");
 }
 
-void appendArgument(std::u16string& out, const PrintfArgument& argument) {
-    std::u16string value;
+// Type names and number texts are ASCII, so each UTF-16 unit is one byte.
+void appendAscii(std::string& out, std::u16string_view ascii) {
+    for (const char16_t c : ascii) out += static_cast<char>(c);
+}
+
+void appendArgument(std::string& out, const PrintfArgument& argument) {
+    thread_local std::u16string value;  // kept, so that its room serves every warning
     const std::u16string type = argument.getTypeAndValue(value);
-    out.append(kIndent).append(kIndent).append(u"<arg type=\"").append(type).append(u"\">");
+    appendLeafIndent(out);
+    out.append("<arg type=\"");
+    appendAscii(out, type);
+    out.append("\">");
     appendEscapedLogText(out, value);
-    out.append(u"</arg>\n");
+    out.append("</arg>\n");
 }
 
-void appendFrame(std::u16string& out, const StackFrame& frame) {
-    out.append(kIndent).append(kIndent).append(u"<frame file=\"");
+void appendFrame(std::string& out, const StackFrame& frame) {
+    appendLeafIndent(out);
+    out.append("<frame file=\"");
     appendEscapedLogText(out, frame.file);
-    out.append(u"\" name=\"");
+    out.append("\" name=\"");
     appendEscapedLogText(out, frame.name);
-    out.append(u"\" line=\"");
-    std::u16string line;
-    PrintfArgument(frame.line).getTypeAndValue(line);  // plain decimal, as an unsigned 32-bit value's text
-    out.append(line);
-    out.append(u"\"/>\n");
+    out.append("\" line=\"");
+    char line[16];
+    const auto end = std::to_chars(std::begin(line), std::end(line), frame.line).ptr;
+    out.append(line, end);
+    out.append("\"/>\n");
 }
 
 }  // namespace
 
-std::u16string renderWarningElement(const Warning& warning) {
-    std::u16string out;
-    out.reserve(kTypicalElementLength + warning.getMessage().size() + warning.getFormat().size());
+void appendWarningElement(std::string& out, const Warning& warning) {
     // Identifiers are checked where they are made; the log writes them as they are.
-    out.append(kIndent).append(u"<warning identifier=\"").append(text::utf8ToUtf16Lossy(warning.getIdentifier()));
-    out.append(u"\" wasDisabled=\"").append(warning.getWasDisabled() ? u"true" : u"false");
-    out.append(u"\" time=\"").append(logTimeText(warning.getTime())).append(u"\">\n");
-    appendLeaf(out, u"message", warning.getMessage());
-    appendLeaf(out, u"format", warning.getFormat());
+    out.append(kWarningElementStart).append(warning.getIdentifier());
+    out.append("\" wasDisabled=\"").append(warning.getWasDisabled() ? "true" : "false");
+    out.append("\" time=\"");
+    appendLogTimeText(out, warning.getTime());
+    out.append("\">\n");
+    appendLeaf(out, "message", warning.getMessage());
+    appendLeaf(out, "format", warning.getFormat());
     for (const PrintfArgument& argument : warning.getArguments()) appendArgument(out, argument);
     for (const StackFrame& frame : warning.getStack()) appendFrame(out, frame);
-    out.append(kIndent).append(u"</warning>\n");
+    out.append(kLogIndent).append("</warning>\n");
+}
+
+std::string renderWarningElement(const Warning& warning) {
+    std::string out;
+    appendWarningElement(out, warning);
     return out;
 }
 

@@ -3,8 +3,11 @@
 #include "diagnostic/log/warning_log_reader.hpp"
 
 #include "diagnostic/log/expat_parser.hpp"
+#include "diagnostic/log/log_file_format.hpp"
 #include "diagnostic/log/log_file_ids.hpp"
+#include "diagnostic/log/log_file_io.hpp"
 #include "diagnostic/log/log_file_name.hpp"
+#include "diagnostic/log/log_file_open.hpp"
 #include "diagnostic/log/log_stream_failure.hpp"
 #include "diagnostic/log/warning_log_events.hpp"
 #include "diagnostic/log/xml_parser_ids.hpp"
@@ -15,8 +18,6 @@
 #include <cerrno>
 #include <cstdint>
 #include <exception>
-#include <fstream>
-#include <ios>
 #include <string_view>
 #include <utility>
 
@@ -25,22 +26,23 @@ namespace {
 
 namespace ids = orrery::diagnostic::ids;
 
-constexpr std::streamsize kBlockSize = 1024;
-constexpr std::streamsize kLargestBlock = std::streamsize{1} << 28;
+constexpr std::size_t kBlockSize = 1024;
+constexpr std::size_t kLargestBlock = std::size_t{1} << 28;
 
-// One read of one file: the parser, the stream and the state machine. Expat calls
-// back through C frames, so a failure inside a callback is caught there, the
-// parser stopped, and the failure raised again once Expat has returned.
+// One read of one open file: the parser and the state machine. Expat calls back
+// through C frames, so a failure inside a callback is caught there, the parser
+// stopped, and the failure raised again once Expat has returned.
 class WarningLogReader {
 public:
-    WarningLogReader(std::u16string fileName, bool scanOnly)
-        : fileName_(std::move(fileName)),
+    WarningLogReader(const LogFileDescriptor& file, std::u16string fileName, bool scanOnly)
+        : file_(file),
+          fileName_(std::move(fileName)),
           parser_(makeExpatParser()),
           events_(scanOnly, scanOnly ? interp::UtcOffset{} : interp::localUtcOffset()) {
         XML_SetUserData(parser_.get(), this);
         XML_SetElementHandler(parser_.get(), &WarningLogReader::onStart, &WarningLogReader::onEnd);
+        XML_SetXmlDeclHandler(parser_.get(), &WarningLogReader::onDeclaration);
         if (!scanOnly) XML_SetCharacterDataHandler(parser_.get(), &WarningLogReader::onCharacterData);
-        open();
     }
 
     /// Feeds the whole file to the parser, in blocks of kBlockSize bytes. Expat
@@ -48,48 +50,41 @@ public:
     /// again from its start at every block, so while one stays open across a whole
     /// block the block size doubles, which keeps the scan linear in the file size.
     void read() {
-        std::streamsize blockSize = kBlockSize;
-        std::int64_t fed = 0;
+        std::size_t blockSize = kBlockSize;
         for (;;) {
             void* block = XML_GetBuffer(parser_.get(), static_cast<int>(blockSize));
             if (block == nullptr) throw std::bad_alloc();
-            const std::streamsize count = readBlock(static_cast<char*>(block), blockSize);
-            const XML_Status status = XML_ParseBuffer(parser_.get(), static_cast<int>(count), input_.eof());
+            const std::size_t count = readAt(static_cast<char*>(block), blockSize, fed_);
+            const bool final = count < blockSize;
+            const XML_Status status = XML_ParseBuffer(parser_.get(), static_cast<int>(count), final);
             if (failure_) std::rethrow_exception(failure_);
-            if (documentEnded_) return;
-            if (status != XML_STATUS_OK) raiseParseError();
-            if (count < blockSize) return;
-            fed += count;
+            if (status != XML_STATUS_OK) {
+                if (rootEnded_ && onlyRemainsAfterRoot()) return;
+                raiseParseError();
+            }
+            if (final) return;
+            fed_ += count;
             // After a successful parse the index is that of the last event: what lies
             // beyond it is the open token.
-            const std::int64_t open = fed - static_cast<std::int64_t>(XML_GetCurrentByteIndex(parser_.get()));
+            const auto open = fed_ - static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser_.get()));
             blockSize = open > blockSize && blockSize < kLargestBlock ? 2 * blockSize : kBlockSize;
         }
     }
 
     WarningLogEvents& events() noexcept { return events_; }
+    const std::string& declaredEncoding() const noexcept { return declaredEncoding_; }
 
 private:
-    void open() {
-        input_.exceptions(std::ios_base::failbit | std::ios_base::badbit);
-        errno = 0;
-        try {
-            input_.open(text::utf16ToUtf8(fileName_), std::ios_base::in | std::ios_base::binary);
-        } catch (const std::ios_base::failure& failure) {
-            except::throwMessage(ids::LogFileOpenFileRead(fileName_, streamFailureText(failure, errno)));
-        }
+    std::size_t readAt(char* block, std::size_t size, std::uint64_t offset) const {
+        return readLogBytesAt(file_, offset, block, size, fileName_);
     }
 
-    // Up to one block; the short last read sets the failure state with end of
-    // file, which is expected.
-    std::streamsize readBlock(char* block, std::streamsize size) {
-        errno = 0;
-        try {
-            input_.read(block, size);
-        } catch (const std::ios_base::failure& failure) {
-            if (!input_.eof()) except::throwMessage(ids::LogFileFileRead(fileName_, streamFailureText(failure, errno)));
-        }
-        return input_.gcount();
+    // Whether everything after the root element's end tag is whitespace followed
+    // by the remains of an append cut short, which a later append cuts off.
+    bool onlyRemainsAfterRoot() const {
+        std::string rest;
+        readLogBytesToEnd(file_, rootEnd_, rest, fileName_);
+        return isWhitespaceThenInterruptedAppend(rest);
     }
 
     [[noreturn]] void raiseParseError() {
@@ -105,7 +100,7 @@ private:
         auto* reader = static_cast<WarningLogReader*>(userData);
         if (reader->failure_) return;
         try {
-            std::forward<Event>(event)(reader->events_);
+            std::forward<Event>(event)(*reader);
         } catch (...) {
             reader->failure_ = std::current_exception();
             XML_StopParser(reader->parser_.get(), XML_FALSE);
@@ -113,43 +108,62 @@ private:
     }
 
     static void XMLCALL onStart(void* userData, const XML_Char* name, const XML_Char** attributes) noexcept {
-        ++static_cast<WarningLogReader*>(userData)->depth_;
-        guarded(userData, [&](WarningLogEvents& events) { events.startElement(name, attributes); });
+        guarded(userData, [&](WarningLogReader& reader) {
+            ++reader.depth_;
+            reader.events_.startElement(name, attributes);
+        });
     }
 
-    // The end of the root element ends the read: what follows it is not the
-    // document's (a warning whose writing was cut short leaves its bytes there).
+    // The end of the root element is remembered: what may follow it is checked
+    // only if the parser refuses it.
     static void XMLCALL onEnd(void* userData, const XML_Char* name) noexcept {
-        auto* reader = static_cast<WarningLogReader*>(userData);
-        XML_Parser parser = reader->parser_.get();
-        guarded(userData, [&](WarningLogEvents& events) {
-            events.endElement(name, static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser)));
+        guarded(userData, [&](WarningLogReader& reader) {
+            XML_Parser parser = reader.parser_.get();
+            const auto index = static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser));
+            reader.events_.endElement(name, index);
+            if (--reader.depth_ == 0) {
+                reader.rootEnded_ = true;
+                reader.rootEnd_ = index + static_cast<std::uint64_t>(XML_GetCurrentByteCount(parser));
+            }
         });
-        if (--reader->depth_ == 0 && !reader->failure_) {
-            reader->documentEnded_ = true;
-            XML_StopParser(parser, XML_FALSE);
-        }
     }
 
     static void XMLCALL onCharacterData(void* userData, const XML_Char* text, int length) noexcept {
-        guarded(userData, [&](WarningLogEvents& events) {
-            events.characterData(std::string_view(text, static_cast<std::size_t>(length)));
+        guarded(userData, [&](WarningLogReader& reader) {
+            reader.events_.characterData(std::string_view(text, static_cast<std::size_t>(length)));
         });
     }
 
+    static void XMLCALL onDeclaration(void* userData, const XML_Char* /*version*/, const XML_Char* encoding,
+                                      int /*standalone*/) noexcept {
+        guarded(userData, [&](WarningLogReader& reader) {
+            if (encoding != nullptr) reader.declaredEncoding_ = encoding;
+        });
+    }
+
+    const LogFileDescriptor& file_;
     std::u16string fileName_;
     ExpatParser parser_;
-    std::ifstream input_;
     WarningLogEvents events_;
     std::exception_ptr failure_;
+    std::string declaredEncoding_;
+    std::uint64_t fed_ = 0;
+    std::uint64_t rootEnd_ = 0;
     int depth_ = 0;
-    bool documentEnded_ = false;
+    bool rootEnded_ = false;
 };
+
+LogFileDescriptor openForReading(const std::u16string& path) {
+    LogFileDescriptor file = openExistingLogFile(path, LogAccess::read);
+    if (!file.isOpen()) except::throwMessage(ids::LogFileOpenFileRead(path, systemErrorText(ENOENT)));
+    return file;
+}
 
 }  // namespace
 
 std::vector<Warning> readWarningLogFile(const std::u16string& path) {
-    WarningLogReader reader(path, false);
+    const LogFileDescriptor file = openForReading(path);
+    WarningLogReader reader(file, path, false);
     reader.read();
     return std::move(reader.events().warnings());
 }
@@ -158,10 +172,12 @@ std::vector<Warning> readWarningLog(const std::u16string& fileName) {
     return readWarningLogFile(normaliseLogFileName(fileName));
 }
 
-std::uint64_t findLogEnd(const std::u16string& fileName) {
-    WarningLogReader reader(fileName, true);
+LogScan scanLog(const LogFileDescriptor& file, const std::u16string& path) {
+    WarningLogReader reader(file, path, true);
     reader.read();
-    return reader.events().logEnd();
+    return {reader.events().logEnd(), reader.declaredEncoding()};
 }
+
+std::uint64_t findLogEnd(const std::u16string& path) { return scanLog(openForReading(path), path).logEnd; }
 
 }  // namespace orrery::lang::diagnostic

@@ -2,6 +2,8 @@
 // of the closing "log" tag.
 #pragma once
 
+#include "diagnostic/log/log_file_descriptor.hpp"
+
 #include <orrery/lang/warning.hpp>
 
 #include <cstdint>
@@ -10,9 +12,10 @@
 
 namespace orrery::lang::diagnostic {
 
-/// Every read ends at the end of the document's root element: what follows it in
-/// the file is not read (it can only be what a warning whose writing was cut
-/// short left after the footer).
+/// Every read parses the file to its end. After the root element it accepts
+/// whitespace, comments and, once, the remains of an append cut short
+/// (isWhitespaceThenInterruptedAppend), which it ignores; anything else there is
+/// "ORRERY:warning:XMLParser:ParseError" with the parser's text, line and column.
 
 /// The records of the log file, in file order. The name is normalised first
 /// (normaliseLogFileName). Raises the "LogFile" and "XMLParser" identifiers of
@@ -21,12 +24,24 @@ namespace orrery::lang::diagnostic {
 std::vector<Warning> readWarningLog(const std::u16string& fileName);
 
 /// The records of the log file at path, which is used as given (readWarningLog
-/// after normalising its name). Raises as readWarningLog does.
+/// after normalising its name). Only a regular file is read (openExistingLogFile),
+/// so a name leading to a pipe or device is refused at once. Raises as
+/// readWarningLog does.
 std::vector<Warning> readWarningLogFile(const std::u16string& path);
 
-/// The byte offset from the start of the file at which its closing "log" tag
-/// begins (0 when the parser reached none). The name is used as given. Checks the
-/// structure as readWarningLog does, without building records or reading times.
-std::uint64_t findLogEnd(const std::u16string& fileName);
+/// What scanning a log finds: where its closing "log" tag begins (a byte offset
+/// from the start of the file, 0 when the parser reached none) and the encoding
+/// its XML declaration names (empty without one).
+struct LogScan {
+    std::uint64_t logEnd = 0;
+    std::string declaredEncoding;
+};
+
+/// Scans the open file from its start, checking the structure as readWarningLog
+/// does without building records or reading times; path names it in messages.
+LogScan scanLog(const LogFileDescriptor& file, const std::u16string& path);
+
+/// scanLog of the file at path, used as given; answers the closing tag's offset.
+std::uint64_t findLogEnd(const std::u16string& path);
 
 }  // namespace orrery::lang::diagnostic

@@ -83,6 +83,7 @@ private:
     void writeToOpenLogs(const Warning& warning);
 
     OpenLogs openLogs_;
+    std::string element_;  // the element being written, its room kept for the next
     warning::WarningFilter outputFilter_;
 };
 

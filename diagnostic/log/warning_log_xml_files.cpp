@@ -26,12 +26,13 @@ void WarningLogXML::closeLog(const std::u16string& fileName) {
     if (openLogs_.erase(name) == 0) except::throwMessage(ids::LogFileNotOpen(name));
 }
 
-// The element is rendered once, in UTF-8, however many logs are open; a failing
-// log stops the writing of this warning to the logs after it.
+// The element is rendered once, in UTF-8 into the kept buffer, however many logs
+// are open; a failing log stops the writing of this warning to the logs after it.
 void WarningLogXML::writeToOpenLogs(const Warning& warning) {
     if (openLogs_.empty()) return;
-    const std::string element = text::utf16ToUtf8(renderWarningElement(warning));
-    for (const auto& [name, log] : openLogs_) log->writeElement(element);
+    element_.clear();
+    appendWarningElement(element_, warning);
+    for (const auto& [name, log] : openLogs_) log->writeElement(element_);
 }
 
 }  // namespace orrery::lang::diagnostic

@@ -19,6 +19,7 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -42,9 +43,7 @@ namespace {
 
 using Arguments = std::vector<catalogue::MessageArgument>;
 
-std::string elementBytes(const Warning& warning) {
-    return text::utf16ToUtf8(lang::diagnostic::renderWarningElement(warning));
-}
+std::string elementBytes(const Warning& warning) { return lang::diagnostic::renderWarningElement(warning); }
 
 Warning goldenWarning() {
     Warning warning;
@@ -240,9 +239,45 @@ void openTarget(FaultScene& scene) { scene.log.openLog(scene.target); }
 void writeFile(const std::u16string& path, const std::string& bytes) {
     std::ofstream(text::utf16ToUtf8(path), std::ios_base::binary) << bytes;
 }
+// A log of one warning in UTF-16 with its byte-order mark, and one in ISO-8859-1.
+std::string utf16Log() {
+    const std::u16string text =
+        u"\uFEFF<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<log>\n"
+        u"<warning identifier=\"a:b\" wasDisabled=\"false\" time=\"2024-03-01 10:00:00.250 +0100\">"
+        u"<message>\u00e9</message><format></format></warning>\n</log>\n";
+    std::string bytes;
+    for (const char16_t unit : text) bytes += {static_cast<char>(unit & 0xFFU), static_cast<char>(unit >> 8U)};
+    return bytes;
+}
+std::string latin1Log() {
+    return "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<log>\n"
+           "<warning identifier=\"a:b\" wasDisabled=\"false\" time=\"2024-03-01 10:00:00.250 +0100\">"
+           "<message>\xE9</message><format></format></warning>\n</log>\n";
+}
+// Until the guard goes the file keeps what was added after its footer; then it is cut back to it.
+FaultGuard cutBackAfterwards(const std::u16string& path, const std::string& footer) {
+    const std::string bytes = fileBytes(path);
+    const std::size_t end = bytes.find(footer) + footer.size();
+    return std::shared_ptr<void>(
+        nullptr, [name = text::utf16ToUtf8(path), end](void*) { std::filesystem::resize_file(name, end); });
+}
 // A file that is no log stays as it is, and a second open fails the same way.
 std::function<void(FaultScene&)> refusedAgain(const char* identifier) {
     return [identifier](FaultScene& scene) { EXPECT_MSGID(openTarget(scene), identifier); };
+}
+// Refused again for appending, and loaded as it is with its warnings.
+std::function<void(FaultScene&)> refusedAndLoads(std::size_t warnings) {
+    return [warnings](FaultScene& scene) {
+        refusedAgain("ORRERY:warning:LogFile:NotUTF8")(scene);
+        EXPECT_EQ(lang::diagnostic::readWarningLogFile(scene.target).size(), warnings);
+    };
+}
+// Neither opened nor loaded, both refused at once.
+std::function<void(FaultScene&)> refusedAndNotLoaded(const char* identifier) {
+    return [identifier](FaultScene& scene) {
+        refusedAgain(identifier)(scene);
+        EXPECT_MSGID(lang::diagnostic::readWarningLog(scene.target), identifier);
+    };
 }
 // The log is healthy again: it holds the warning before the fault and the next one.
 void keptAndNext(FaultScene& scene) {
@@ -294,8 +329,67 @@ TEST(WarningLogFile, EachFaultRaisesItsIdentifierKeepsWhatIsOnDiskAndLetsTheNext
          refusedAgain("ORRERY:warning:LogFile:FileSeek")},
         {"a folder named like a log",
          [](FaultScene& scene) { std::filesystem::create_directory(text::utf16ToUtf8(scene.target)); }, noGuardNeeded,
-         openTarget, "ORRERY:warning:LogFile:OpenFileAppend", u"Is a directory",
-         refusedAgain("ORRERY:warning:LogFile:OpenFileAppend")},
+         openTarget, "ORRERY:warning:LogFile:DirSpecified", nullptr,
+         refusedAgain("ORRERY:warning:LogFile:DirSpecified")},
+        // ---- what the name leads to: refused at once, nothing read, written or created
+        {"a log in UTF-16", [&](FaultScene& scene) { writeFile(scene.target, utf16Log()); }, noGuardNeeded, openTarget,
+         "ORRERY:warning:LogFile:NotUTF8", nullptr, refusedAndLoads(1)},
+        {"a log declared ISO-8859-1", [&](FaultScene& scene) { writeFile(scene.target, latin1Log()); }, noGuardNeeded,
+         openTarget, "ORRERY:warning:LogFile:NotUTF8", nullptr, refusedAndLoads(1)},
+        {"a pipe named like a log", [](FaultScene& scene) { ::mkfifo(text::utf16ToUtf8(scene.target).c_str(), 0600); },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:IsPipe", nullptr,
+         refusedAndNotLoaded("ORRERY:warning:LogFile:IsPipe")},
+        {"a link to a pipe",
+         [](FaultScene& scene) {
+             ::mkfifo("pipe.xml", 0600);
+             std::filesystem::create_symlink("pipe.xml", text::utf16ToUtf8(scene.target));
+         },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:IsPipe", nullptr,
+         refusedAndNotLoaded("ORRERY:warning:LogFile:IsPipe")},
+        {"a link to a device",
+         [](FaultScene& scene) { std::filesystem::create_symlink("/dev/null", text::utf16ToUtf8(scene.target)); },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:IsDevice", nullptr,
+         [](FaultScene& scene) {
+             refusedAndNotLoaded("ORRERY:warning:LogFile:IsDevice")(scene);
+             EXPECT_FALSE(std::filesystem::exists("/dev/null.xml"));
+         }},
+        {"a link to a missing file",
+         [](FaultScene& scene) { std::filesystem::create_symlink("nowhere.xml", text::utf16ToUtf8(scene.target)); },
+         noGuardNeeded, openTarget, "ORRERY:warning:LogFile:DanglingLink", nullptr,
+         [](FaultScene& scene) {
+             refusedAgain("ORRERY:warning:LogFile:DanglingLink")(scene);
+             EXPECT_FALSE(std::filesystem::exists("nowhere.xml"));
+         }},
+        // ---- the file changes under an open log
+        {"bytes after the footer that no writer left",
+         [](FaultScene& scene) {
+             scene.openWithOneWarning();
+             std::ofstream(text::utf16ToUtf8(scene.target), std::ios_base::app) << "<!-- not ours -->";
+         },
+         [](FaultScene& scene) { return cutBackAfterwards(scene.target, kFooter); },
+         [](FaultScene& scene) { scene.warn("test:lost"); }, "ORRERY:warning:LogFile:FooterMissing", nullptr,
+         keptAndNext},
+        {"a log emptied while open (rotation by copy and truncation)", &FaultScene::openWithOneWarning,
+         [](FaultScene& scene) {
+             std::filesystem::resize_file(text::utf16ToUtf8(scene.target), 0);
+             return noGuardNeeded(scene);
+         },
+         [](FaultScene& scene) { scene.warn("test:after"); }, nullptr, nullptr,
+         [](FaultScene& scene) {
+             EXPECT_EQ(FaultScene::identifiersIn(scene.target), (Identifiers{"test:after", "test:next"}));
+             EXPECT_TRUE(fileBytes(scene.target).starts_with(kHeader));
+         }},
+        {"a log renamed while open (rotation by renaming)", &FaultScene::openWithOneWarning,
+         [](FaultScene& scene) {
+             std::filesystem::rename(text::utf16ToUtf8(scene.target), "rotated.xml");
+             return noGuardNeeded(scene);
+         },
+         [](FaultScene& scene) { scene.warn("test:after"); }, nullptr, nullptr,
+         [](FaultScene& scene) {
+             EXPECT_EQ(FaultScene::identifiersIn(u"rotated.xml"),
+                       (Identifiers{"test:kept", "test:after", "test:next"}));
+             EXPECT_FALSE(std::filesystem::exists(text::utf16ToUtf8(scene.target)));
+         }},
         {"a folder that does not exist", [&](FaultScene& scene) { scene.target = folder.file("missing/target.xml"); },
          noGuardNeeded, openTarget, "ORRERY:warning:LogFile:OpenFileWrite", u"No such file or directory",
          refusedAgain("ORRERY:warning:LogFile:OpenFileWrite")},

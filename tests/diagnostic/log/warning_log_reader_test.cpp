@@ -175,8 +175,8 @@ TEST_F(WarningLogReader, MissingAndUnreadableFilesRaiseTheirLogFileIdentifiers) 
     EXPECT_MSGID_ARGS(readWarningLogFile(missing), "ORRERY:warning:LogFile:OpenFileRead",
                       (std::vector<MessageArgument>{missing, u"No such file or directory"}));
     const std::u16string folder = folder_.file("");
-    EXPECT_MSGID_ARGS(findLogEnd(folder), "ORRERY:warning:LogFile:FileRead",
-                      (std::vector<MessageArgument>{folder, u"Is a directory"}));
+    EXPECT_MSGID_ARGS(findLogEnd(folder), "ORRERY:warning:LogFile:DirSpecified",
+                      (std::vector<MessageArgument>{folder}));
 }
 
 // What a warning whose writing was cut short leaves after the footer is not read.
