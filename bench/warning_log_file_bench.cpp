@@ -1,8 +1,11 @@
 // Cost of appending a warning to an open log file, with and without forcing it to
-// the disk, against the floor of write() of the same rendered bytes and, when it
-// is installed, against spdlog's basic file sink flushing every message.
+// the disk: against the floor of the system calls every append to a log shared by
+// several writers needs (lock, the two positioned writes of the same bytes,
+// unlock), and, when it is installed, against spdlog's basic file sink flushing
+// every message.
 #include "bench/ratio_reporter.hpp"
 
+#include "diagnostic/log/log_file_format.hpp"
 #include "diagnostic/log/log_output_stream.hpp"
 #include "diagnostic/log/warning_element.hpp"
 
@@ -77,14 +80,35 @@ void appendWarningToLog(benchmark::State& state) { appendWarnings(state, "bench_
 // calls, one after each of the warning's two writes), over a floor that syncs once.
 void appendWarningToLogWithSync(benchmark::State& state) { appendWarnings(state, "bench_sync_log.xml", true); }
 
-// The floor: one write() of the same rendered bytes per warning.
+// Whole-file lock of the given type on the open file description.
+bool lockWholeFile(int fd, short type, int command) {
+    struct flock lock {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    return ::fcntl(fd, command, &lock) == 0;
+}
+
+// The floor: per warning, the exclusive lock, the element's rest and the footer
+// after the old footer, the element's head over it, and the unlock.
 void appendWarningToLogFloor(benchmark::State& state) {
+    using orrery::lang::diagnostic::kLogFooter;
     const ScratchFile file("bench_floor.xml");
-    const int fd = ::open(file.path().c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    const std::string bytes = renderedWarning();
-    state.SetLabel("one write() of the same bytes");
-    for (auto _ : state)
-        if (::write(fd, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) state.SkipWithError("write");
+    const int fd = ::open(file.path().c_str(), O_RDWR | O_CREAT | O_TRUNC, 0644);
+    std::string bytes = renderedWarning();
+    const std::size_t head = kLogFooter.size();
+    const std::size_t element = bytes.size();
+    bytes += kLogFooter;
+    off_t footer = 0;
+    state.SetLabel("system calls");
+    for (auto _ : state) {
+        const bool written = lockWholeFile(fd, F_WRLCK, F_OFD_SETLKW) &&
+                             ::pwrite(fd, bytes.data() + head, bytes.size() - head,
+                                      footer + static_cast<off_t>(head)) == static_cast<ssize_t>(bytes.size() - head) &&
+                             ::pwrite(fd, bytes.data(), head, footer) == static_cast<ssize_t>(head) &&
+                             lockWholeFile(fd, F_UNLCK, F_OFD_SETLK);
+        if (!written) state.SkipWithError("append");
+        footer += static_cast<off_t>(element);
+    }
     ::close(fd);
     state.SetItemsProcessed(state.iterations());
 }

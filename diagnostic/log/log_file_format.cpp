@@ -12,8 +12,9 @@ bool isWhitespaceThenInterruptedAppend(std::string_view bytes) noexcept {
     bytes.remove_prefix(std::min(bytes.find_first_not_of(" \t\r\n"), bytes.size()));
     if (bytes.size() <= kRemainsStart.size()) return kRemainsStart.starts_with(bytes);
     if (!bytes.starts_with(kRemainsStart)) return false;
-    const std::size_t footer = bytes.find("\n</log>");
-    return footer == std::string_view::npos || footer + 1 + kLogFooter.size() >= bytes.size();
+    const std::size_t footer = bytes.find("</log");
+    return footer == std::string_view::npos ||
+           (bytes[footer - 1] == '\n' && kLogFooter.starts_with(bytes.substr(footer)));
 }
 
 }  // namespace orrery::lang::diagnostic

@@ -16,6 +16,9 @@ TEST(LogFileName, IsAbsoluteResolvedAndEndsInXmlOrIsRefusedBeforeAnyFileIsTouche
     const orrery::test::TemporaryWorkingFolder folder;
     std::filesystem::create_directory("folder");
     std::filesystem::create_directory("folder.xml");
+    // The extension is the given name's: a link without one names a log beside it, never beside its target.
+    std::filesystem::create_symlink("/dev/null", "null");
+    std::filesystem::create_symlink("/dev/null", "device.xml");
     const std::u16string log = folder.file("log.xml");
     struct Case {
         std::u16string name;
@@ -29,6 +32,8 @@ TEST(LogFileName, IsAbsoluteResolvedAndEndsInXmlOrIsRefusedBeforeAnyFileIsTouche
         {u"Log.XML", "", folder.file("Log.XML")},
         {u"folder.xml", "", folder.file("folder.xml")},
         {u"a.b/log", "", folder.file("a.b/log.xml")},
+        {u"null", "", folder.file("null.xml")},
+        {u"device.xml", "", u"/dev/null"},
         {u"", "ORRERY:warning:LogFile:EmptyName", u""},
         {u"log.txt", "ORRERY:warning:LogFile:BadExtension", folder.file("log.txt")},
         {u"log.xml.bak", "ORRERY:warning:LogFile:BadExtension", folder.file("log.xml.bak")},

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 #include <boost/lexical_cast.hpp>
 
+#include <algorithm>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -179,12 +180,47 @@ TEST_F(WarningLogReader, MissingAndUnreadableFilesRaiseTheirLogFileIdentifiers) 
                       (std::vector<MessageArgument>{folder}));
 }
 
-// What a warning whose writing was cut short leaves after the footer is not read.
-TEST_F(WarningLogReader, StopsAtTheEndOfTheDocument) {
+// After the root element: whitespace, or the remains of an append cut short as
+// the writer leaves them (its element less the bytes that go over the old footer,
+// cut at any byte, with or without the new footer), which are not read.
+TEST_F(WarningLogReader, IgnoresWhitespaceAndTheRemainsOfAnInterruptedAppendAfterTheLog) {
     const std::string content = logWithWarning("<message>m</message><format></format>");
-    const std::string cut = content + "rning identifier=\"a:b\" wasDis" + std::string(3000, '\0');
-    EXPECT_EQ(read(cut).size(), 1U);
-    EXPECT_EQ(findLogEnd(fileWith(cut)), content.size() - kFooter.size());
+    const std::string element =
+        "    <warning identifier=\"a:b\" wasDisabled=\"true\" time=\"2024-03-01 10:00:00.250 "
+        "+0100\">\n        <message>x #a# &lt;</message>\n        <format></format>\n    "
+        "</warning>\n";
+    const std::string remains = element.substr(kFooter.size()) + kFooter;
+    EXPECT_EQ(read(content + " \n\t\r\n").size(), 1U);
+    for (std::size_t cut = 1; cut <= remains.size(); ++cut) {
+        SCOPED_TRACE("remains cut after " + std::to_string(cut) + " bytes");
+        const std::string file = content + remains.substr(0, cut);
+        EXPECT_EQ(read(file).size(), 1U);
+        EXPECT_EQ(findLogEnd(fileWith(file)), content.size() - kFooter.size());
+    }
+}
+
+// Anything else after the root element is junk, reported where it starts.
+TEST_F(WarningLogReader, RefusesAnythingElseAfterTheLogWithTheParsersPosition) {
+    const std::string content = logWithWarning("<message>m</message><format></format>");
+    const std::size_t lines = static_cast<std::size_t>(std::count(content.begin(), content.end(), '\n'));
+    struct Case {
+        const char* what;
+        std::string after;
+        std::size_t column;  // counted from 1 on the line after the log
+    };
+    const Case cases[] = {
+        {"a second log", content, 1},
+        {"a comment followed by an element", "<!-- c --><log/>", 11},
+        {"text", "  text", 3},
+        {"remains twice", "rning identifier=\"a:b\"" + kFooter + "rning", 1},
+        {"remains after a comment", "<!-- c -->rning", 11},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_MSGID_ARGS(read(content + c.after), "ORRERY:warning:XMLParser:ParseError",
+                          (std::vector<MessageArgument>{u"junk after document element", static_cast<double>(lines + 1),
+                                                        static_cast<double>(c.column)}));
+    }
 }
 
 // The file is fed in blocks of 1024 bytes: a short last block, or an empty final
