@@ -13,7 +13,6 @@
 
 #include <orrery/except/throw_message.hpp>
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -62,10 +61,15 @@ void LogOutputStream::writeElement(std::string_view element) {
 // left while nobody else wrote; other writers only ever add, so their warnings
 // stand after where this writer's footer was, and a shorter file was cut by
 // someone (rotation by copy and truncation) and is looked at from its start.
+//
+// The size is asked by seeking to the end (the file's own position is not used,
+// every write is positioned): asking the status would also read the file's
+// times, after which the system must stamp the next write with a fine-grained
+// time, which costs more than the write.
 void LogOutputStream::locateFooter() {
-    struct stat status {};
-    if (::fstat(file_.get(), &status) != 0) except::throwMessage(ids::LogFileFileWrite(path_, systemErrorText(errno)));
-    const auto size = static_cast<std::uint64_t>(status.st_size);
+    const off_t end = ::lseek(file_.get(), 0, SEEK_END);
+    if (end < 0) except::throwMessage(ids::LogFileFileWrite(path_, systemErrorText(errno)));
+    const auto size = static_cast<std::uint64_t>(end);
     if (size != fileSize_) {
         if (size == 0) return startAfresh();
         std::optional<std::uint64_t> footer;

@@ -17,6 +17,8 @@ bool isWrittenAsItIs(char16_t c) {
            (c >= 0xFDF0 && c <= 0xFFFD);
 }
 
+bool isMarkup(char16_t c) { return c == u'"' || c == u'#' || c == u'&' || c == u'\'' || c == u'<' || c == u'>'; }
+
 char* put(char* out, std::string_view text) {
     std::memcpy(out, text.data(), text.size());
     return out + text.size();
@@ -43,30 +45,44 @@ char* putUnit(char* out, char16_t c) {
     return out + length;
 }
 
+// A unit written as one byte, as it is.
+bool isPlainAscii(char16_t c) { return c >= 0x20 && c <= 0x7E && !isMarkup(c); }
+
+// One unit that is not plain ASCII: markup, a unit written as it is in UTF-8, or an escape.
+char* putEscaped(char* next, char16_t c) {
+    switch (c) {
+        case u'"': return put(next, "&quot;");
+        case u'#': return put(next, "##");
+        case u'&': return put(next, "&amp;");
+        case u'\'': return put(next, "&apos;");
+        case u'<': return put(next, "&lt;");
+        case u'>': return put(next, "&gt;");
+        case u'\t': *next = '\t'; return next + 1;
+        default: return isWrittenAsItIs(c) ? putUnit(next, c) : putHexEscape(next, c);
+    }
+}
+
 }  // namespace
 
-// The output grows once by the most the text can become, is written through a
-// pointer, and is cut back to what was written.
+// Plain ASCII, by far the most common text, is copied a run at a time; the rest
+// grows the output by the most one unit can become, cut back afterwards.
 void appendEscapedLogText(std::string& out, std::u16string_view text) {
-    const std::size_t start = out.size();
-    out.resize(start + kLongestEscape * text.size());
-    char* next = out.data() + start;
-    for (const char16_t c : text) {
-        switch (c) {
-            case u'"': next = put(next, "&quot;"); break;
-            case u'#': next = put(next, "##"); break;
-            case u'&': next = put(next, "&amp;"); break;
-            case u'\'': next = put(next, "&apos;"); break;
-            case u'<': next = put(next, "&lt;"); break;
-            case u'>': next = put(next, "&gt;"); break;
-            default:
-                if (c < 0x80 && isWrittenAsItIs(c))
-                    *next++ = static_cast<char>(c);
-                else
-                    next = isWrittenAsItIs(c) ? putUnit(next, c) : putHexEscape(next, c);
+    std::size_t i = 0;
+    while (i < text.size()) {
+        std::size_t run = i;
+        while (run < text.size() && isPlainAscii(text[run])) ++run;
+        if (run > i) {
+            const std::size_t start = out.size();
+            out.resize(start + (run - i));
+            char* next = out.data() + start;
+            for (; i < run; ++i) *next++ = static_cast<char>(text[i]);
+            if (i == text.size()) break;
         }
+        const std::size_t start = out.size();
+        out.resize(start + kLongestEscape);
+        char* const end = putEscaped(out.data() + start, text[i++]);
+        out.resize(static_cast<std::size_t>(end - out.data()));
     }
-    out.resize(static_cast<std::size_t>(next - out.data()));
 }
 
 std::string escapeLogText(std::u16string_view text) {

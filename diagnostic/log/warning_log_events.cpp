@@ -27,7 +27,22 @@ constexpr std::array<std::string_view, 3> kWarningAttributes{"identifier", "time
 constexpr std::array<std::string_view, 1> kArgAttributes{"type"};
 constexpr std::array<std::string_view, 3> kFrameAttributes{"file", "line", "name"};
 
-bool named(const XML_Char* name, const char* expected) { return std::strcmp(name, expected) == 0; }
+// The elements of a log, told apart by their first letter and then compared whole.
+enum class LogElement { log, warning, message, format, arg, frame, unknown };
+
+LogElement elementNamed(const XML_Char* name) {
+    const auto is = [name](const char* expected, LogElement element) {
+        return std::strcmp(name, expected) == 0 ? element : LogElement::unknown;
+    };
+    switch (name[0]) {
+        case 'a': return is("arg", LogElement::arg);
+        case 'f': return name[1] == 'o' ? is("format", LogElement::format) : is("frame", LogElement::frame);
+        case 'l': return is("log", LogElement::log);
+        case 'm': return is("message", LogElement::message);
+        case 'w': return is("warning", LogElement::warning);
+        default: return LogElement::unknown;
+    }
+}
 
 // Attribute values and character data reach the records as UTF-16. Expat hands
 // over well-formed UTF-8, mostly ASCII, which is widened here directly.
@@ -58,33 +73,39 @@ WarningLogEvents::WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset)
 // ---- element start ------------------------------------------------------------------
 
 void WarningLogEvents::startElement(const XML_Char* name, const XML_Char** attributes) {
-    if (named(name, "log")) {
-        checkNoAttributes(name, attributes);
-        if (inLog_) except::throwMessage(ids::XmlNestedLog());
-        inLog_ = true;
-    } else if (named(name, "warning")) {
-        if (inWarning_) except::throwMessage(ids::XmlNestedWarning());
-        inWarning_ = true;
-        std::array<const XML_Char*, kWarningAttributes.size()> values{};
-        checkAttributes(name, attributes, kWarningAttributes, values);
-        startWarning(values.data());
-    } else if (named(name, "arg")) {
-        enterLeaf(name);
-        text_.clear();
-        std::array<const XML_Char*, kArgAttributes.size()> values{};
-        checkAttributes(name, attributes, kArgAttributes, values);
-        startArg(values[0]);
-    } else if (named(name, "frame")) {
-        enterLeaf(name);
-        std::array<const XML_Char*, kFrameAttributes.size()> values{};
-        checkAttributes(name, attributes, kFrameAttributes, values);
-        startFrame(values.data());
-    } else if (named(name, "format") || named(name, "message")) {
-        checkNoAttributes(name, attributes);
-        enterLeaf(name);
-        text_.clear();
-    } else {
-        except::throwMessage(ids::XmlUnknownElement(utf16(name)));
+    switch (elementNamed(name)) {
+        case LogElement::log:
+            checkNoAttributes(name, attributes);
+            if (inLog_) except::throwMessage(ids::XmlNestedLog());
+            inLog_ = true;
+            return;
+        case LogElement::warning: {
+            if (inWarning_) except::throwMessage(ids::XmlNestedWarning());
+            inWarning_ = true;
+            std::array<const XML_Char*, kWarningAttributes.size()> values{};
+            checkAttributes(name, attributes, kWarningAttributes, values);
+            return startWarning(values.data());
+        }
+        case LogElement::arg: {
+            enterLeaf(name);
+            text_.clear();
+            std::array<const XML_Char*, kArgAttributes.size()> values{};
+            checkAttributes(name, attributes, kArgAttributes, values);
+            return startArg(values[0]);
+        }
+        case LogElement::frame: {
+            enterLeaf(name);
+            std::array<const XML_Char*, kFrameAttributes.size()> values{};
+            checkAttributes(name, attributes, kFrameAttributes, values);
+            return startFrame(values.data());
+        }
+        case LogElement::format:
+        case LogElement::message:
+            checkNoAttributes(name, attributes);
+            enterLeaf(name);
+            text_.clear();
+            return;
+        case LogElement::unknown: except::throwMessage(ids::XmlUnknownElement(utf16(name)));
     }
 }
 
@@ -138,30 +159,32 @@ void WarningLogEvents::characterData(std::string_view utf8) {
 // ---- element end --------------------------------------------------------------------
 
 void WarningLogEvents::endElement(const XML_Char* name, std::uint64_t byteIndex) {
-    if (named(name, "log")) {
-        logEnd_ = byteIndex;
-        inLog_ = false;
-        return;
-    }
-    if (named(name, "warning")) {
-        inWarning_ = false;
-        if (!scanOnly_) endWarning();
-    } else if (named(name, "message") || named(name, "format")) {
-        inLeaf_ = false;
-        if (!scanOnly_) {
-            std::u16string value = unescapeLogText(std::move(text_));
-            if (named(name, "message"))
-                warnings_.back().setMessage(std::move(value));
-            else
-                warnings_.back().setFormat(std::move(value));
-        }
-    } else if (named(name, "arg")) {
-        inLeaf_ = false;
-        if (!scanOnly_) endArg();
-    } else if (named(name, "frame")) {
-        inLeaf_ = false;
-    } else {
-        except::throwMessage(ids::XmlUnknownElement(utf16(name)));
+    switch (const LogElement element = elementNamed(name)) {
+        case LogElement::log:
+            logEnd_ = byteIndex;
+            inLog_ = false;
+            return;
+        case LogElement::warning:
+            inWarning_ = false;
+            if (!scanOnly_) endWarning();
+            break;
+        case LogElement::message:
+        case LogElement::format:
+            inLeaf_ = false;
+            if (!scanOnly_) {
+                std::u16string value = unescapeLogText(std::move(text_));
+                if (element == LogElement::message)
+                    warnings_.back().setMessage(std::move(value));
+                else
+                    warnings_.back().setFormat(std::move(value));
+            }
+            break;
+        case LogElement::arg:
+            inLeaf_ = false;
+            if (!scanOnly_) endArg();
+            break;
+        case LogElement::frame: inLeaf_ = false; break;
+        case LogElement::unknown: except::throwMessage(ids::XmlUnknownElement(utf16(name)));
     }
     text_.clear();
 }

@@ -15,8 +15,10 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <exception>
 #include <string_view>
 #include <utility>
@@ -28,6 +30,7 @@ namespace ids = orrery::diagnostic::ids;
 
 constexpr std::size_t kBlockSize = 1024;
 constexpr std::size_t kLargestBlock = std::size_t{1} << 28;
+constexpr std::size_t kReadAhead = 64 * 1024;
 
 // One read of one open file: the parser and the state machine. Expat calls back
 // through C frames, so a failure inside a callback is caught there, the parser
@@ -75,8 +78,16 @@ public:
     const std::string& declaredEncoding() const noexcept { return declaredEncoding_; }
 
 private:
-    std::size_t readAt(char* block, std::size_t size, std::uint64_t offset) const {
-        return readLogBytesAt(file_, offset, block, size, fileName_);
+    // Blocks are served from a larger read ahead, which spares a system call per block.
+    std::size_t readAt(char* block, std::size_t size, std::uint64_t offset) {
+        if (offset < aheadStart_ || offset + size > aheadStart_ + ahead_.size()) {
+            ahead_.resize(std::max(kReadAhead, size));
+            ahead_.resize(readLogBytesAt(file_, offset, ahead_.data(), ahead_.size(), fileName_));
+            aheadStart_ = offset;
+        }
+        const std::size_t count = std::min<std::uint64_t>(size, aheadStart_ + ahead_.size() - offset);
+        std::memcpy(block, ahead_.data() + (offset - aheadStart_), count);
+        return count;
     }
 
     // Whether everything after the root element's end tag is whitespace followed
@@ -147,6 +158,8 @@ private:
     WarningLogEvents events_;
     std::exception_ptr failure_;
     std::string declaredEncoding_;
+    std::string ahead_;
+    std::uint64_t aheadStart_ = 0;
     std::uint64_t fed_ = 0;
     std::uint64_t rootEnd_ = 0;
     int depth_ = 0;
