@@ -58,7 +58,7 @@ std::size_t readLogBytesAt(const LogFileDescriptor& file, std::uint64_t offset, 
 
 void readLogBytesToEnd(const LogFileDescriptor& file, std::uint64_t offset, std::string& out,
                        const std::u16string& path) {
-    constexpr std::size_t kBlock = 64 * 1024;
+    constexpr std::size_t kBlock = std::size_t{64} * 1024;
     out.clear();
     std::size_t count = 0;
     do {

@@ -29,7 +29,7 @@ std::u16string resolvedLogPath(std::u16string path) {
 std::u16string normaliseLogFileName(const std::u16string& name) {
     if (name.empty()) except::throwMessage(ids::LogFileEmptyName());
 
-    const std::u16string path = resolvedLogPath(name);
+    std::u16string path = resolvedLogPath(name);
     const std::u16string extension = files::extensionOf(files::nativeForm(name));
     if (!extension.empty()) {
         // Any other extension is refused rather than extended: "a.txt" never becomes "a.txt.xml".

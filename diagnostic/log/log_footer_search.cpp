@@ -13,7 +13,7 @@ namespace orrery::lang::diagnostic {
 // ends the header or the last element.
 std::optional<std::uint64_t> findLogFooter(const LogFileDescriptor& file, std::uint64_t from, std::string& scratch,
                                            const std::u16string& path) {
-    constexpr std::size_t kBlock = 64 * 1024;
+    constexpr std::size_t kBlock = std::size_t{64} * 1024;
     const std::string_view kLine = "\n</log>\n";
     std::uint64_t offset = from > 0 ? from - 1 : 0;
     scratch.resize(kBlock);

@@ -30,7 +30,7 @@ namespace ids = orrery::diagnostic::ids;
 
 constexpr std::size_t kBlockSize = 1024;
 constexpr std::size_t kLargestBlock = std::size_t{1} << 28;
-constexpr std::size_t kReadAhead = 64 * 1024;
+constexpr std::size_t kReadAhead = std::size_t{64} * 1024;
 
 // One read of one open file: the parser and the state machine. Expat calls back
 // through C frames, so a failure inside a callback is caught there, the parser
