@@ -18,13 +18,10 @@ const WarningState* WarningStateTable::find(std::string_view identifier) const {
 }
 
 void WarningStateTable::set(std::string_view identifier, WarningState state) {
-    auto& byIdentifier = entries_.get<kByIdentifier>();
-    const auto found = byIdentifier.find(identifier, IdentifierHash{}, std::equal_to<>{});
-    if (found != byIdentifier.end()) {
-        found->state = state;
-        return;
-    }
-    entries_.get<kInOrder>().push_back(Entry{std::string(identifier), state});
+    // Inserting through the hash index hashes once and appends to the sequence;
+    // an identifier already there keeps its place and takes the new state.
+    const auto [entry, added] = entries_.get<kByIdentifier>().emplace(Entry{std::string(identifier), state});
+    if (!added) entry->state = state;
 }
 
 void WarningStateTable::clear() {
