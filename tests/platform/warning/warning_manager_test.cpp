@@ -2,6 +2,8 @@
 // warning, the log slot and the callback.
 #include "warning_fixture.hpp"
 
+#include <malloc.h>
+
 #include <string>
 #include <utility>
 #include <vector>
@@ -164,4 +166,22 @@ TEST_F(WarningManager, MachineDestroysItsLogWhileItsFiltersStillExist) {
     EXPECT_EQ(destroyed, (std::vector<std::pair<int, utWarningLog*>>{{1, log}}));
     EXPECT_FALSE(issueWarningWithoutLogging(context, "a:b", u"shown"));
     EXPECT_EQ(takePrinted(), "Warning: shown\n") << "the inner machine's filter never applied here";
+}
+
+TEST_F(WarningManager, SettingAllGivesBackTheMemoryOfTheStates) {
+#ifdef ORRERY_ADDRESS_SANITIZER
+    GTEST_SKIP() << "the sanitizer's allocator keeps the C library's heap figures still";
+#else
+    // Blocks in the heap's arenas and those mapped on their own (the large ones).
+    const auto heapInUse = [] {
+        const struct mallinfo2 heap = mallinfo2();
+        return static_cast<long long>(heap.uordblks + heap.hblkhd);
+    };
+    const long long before = heapInUse();
+    for (int i = 0; i < 20'000; ++i) utSetWarningStatus(context, "id:n" + std::to_string(i), WarningState::Off);
+    EXPECT_GT(heapInUse() - before, 1'000'000) << "each state takes room";
+    utSetWarningStatus(context, "all", WarningState::Off);
+    // What stays is the empty table's own, however many states it held.
+    EXPECT_LT(heapInUse() - before, 16'384);
+#endif
 }
