@@ -56,7 +56,7 @@ constexpr HelpEntry kEntries[] = {
      "warning(id, fmt, args...)\tissue it with the identifier id and the message sprintf(fmt, args...)\n"
      "warning(msgObject)\tissue the catalogue message of a message object\n"
      "warning('')\tclear the last warning; nothing is printed\n"
-     "warning on|off ID\tturn the warning ID on or off ('all': the default of every warning)\n"
+     "warning on|off ID\tturn the warning ID on or off ('all': every warning, replacing the states set per ID)\n"
      "warning error ID\tmake the warning ID raise an error instead\n"
      "warning off last\tturn off the last warning printed\n"
      "warning query ID\tshow the state of ID; warning alone shows every state\n"

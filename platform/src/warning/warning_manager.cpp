@@ -10,6 +10,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <string>
+#include <utility>
 
 namespace orrery::warning {
 namespace {
@@ -55,28 +56,24 @@ WarningManagerContext* utGetWarningManagerContext() {
 
 WarningState utGetWarningStatus(WarningManagerContext* context, std::string_view identifier) {
     if (isAll(identifier)) return context->defaultState;
-    for (const auto& [id, state] : context->states)
-        if (id == identifier) return state;
-    return context->defaultState;
+    const WarningState* own = context->states.find(identifier);
+    return own != nullptr ? *own : context->defaultState;
 }
 
 void utSetWarningStatus(WarningManagerContext* context, std::string_view identifier, WarningState state) {
     checkedState(state);
     if (isAll(identifier)) {
+        // A new default replaces every identifier's own state.
         context->defaultState = state;
+        context->states.clear();
         return;
     }
-    for (auto& [id, current] : context->states)
-        if (id == identifier) {
-            current = state;
-            return;
-        }
-    context->states.emplace_back(std::string(identifier), state);
+    context->states.set(identifier, state);
 }
 
 void utIterateOverWarningStatuses(WarningManagerContext* context,
                                   const std::function<void(const std::string&, WarningState)>& visit) {
-    for (const auto& [id, state] : context->states) visit(id, state);
+    context->states.forEach(visit);
 }
 
 std::size_t utCountWarningsInWarningManager(WarningManagerContext* context) { return context->states.size(); }

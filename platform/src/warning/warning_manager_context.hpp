@@ -1,13 +1,13 @@
 // The warning manager context: what one interpreter instance's warning manager keeps.
 #pragma once
 
+#include "warning/warning_state_table.hpp"
+
 #include <orrery/warning/warning_manager.hpp>
 
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace orrery::warning {
 
@@ -23,7 +23,7 @@ struct WarningLogDeleter {
 using OwnedWarningLog = std::unique_ptr<utWarningLog, WarningLogDeleter>;
 
 struct WarningManagerContext {
-    std::vector<std::pair<std::string, WarningState>> states;  // insertion order
+    WarningStateTable states;  // identifiers' own states; the default is for the rest
     WarningState defaultState = WarningState::On;
     bool modes[3] = {false, true, false};  // indexed by WarningMode
     std::u16string lastMessage;

@@ -34,6 +34,28 @@ TEST_F(WarningBuiltins, AllCanBeAnErrorOnlyWhenTheFeatureAllowsIt) {
     EXPECT_EQ(warning::utGetWarningStatus(context, "all"), WarningState::Error);
 }
 
+// The rule that a new default replaces every own state, for the one new default a
+// script cannot set ("error") as well as the others, by command and by structure.
+TEST_F(WarningBuiltins, SettingAllGivesEveryIdentifierTheNewDefault) {
+    services::svSetFeature("AllWarningsCanBeErrors", true);
+    const std::pair<const char*, WarningState> kStates[] = {
+        {"off", WarningState::Off}, {"on", WarningState::On}, {"error", WarningState::Error}};
+    for (const bool byStructure : {false, true})
+        for (const auto& [own, ownState] : kStates)
+            for (const auto& [all, allState] : kStates) {
+                SCOPED_TRACE(std::string(own) + " then all " + all + (byStructure ? " by structure" : ""));
+                callBuiltin(&bnFullWarningFcn, 0, {chars(own), chars("probe:x")});
+                if (byStructure)
+                    callBuiltin(&bnFullWarningFcn, 0,
+                                {structOf({{"identifier", chars("all")}, {"state", chars(all)}})});
+                else
+                    callBuiltin(&bnFullWarningFcn, 0, {chars(all), chars("all")});
+                EXPECT_EQ(warning::utGetWarningStatus(context, "probe:x"), allState);
+                EXPECT_EQ(callBuiltin(&bnFullWarningFcn, 1, {})[0]->numel(), 1u) << "the listing holds all alone";
+            }
+    services::svUnregisterFeature("AllWarningsCanBeErrors");
+}
+
 TEST_F(WarningBuiltins, MissingStringsAreRefusedAndChangeNothing) {
     const value::ValueArray missing = value::ValueArray::missingString();
     const value::ValueArray states = structOf({{"identifier", chars("all")}, {"state", missing}});

@@ -2,6 +2,12 @@
 // warning, the log slot and the callback.
 #include "warning_fixture.hpp"
 
+#include <malloc.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
 using namespace orrery::warning;
 using orrery::warning::testing::MockLog;
 using WarningManager = orrery::warning::testing::WarningTest;
@@ -15,7 +21,18 @@ TEST(WarningIdentifier, FollowsTheIdentifierRule) {
     for (const auto& [id, valid] : cases) EXPECT_EQ(utIsValidMessageIdentifier(id), valid) << id;
 }
 
-TEST_F(WarningManager, StatesFallBackToTheDefaultAndKeepInsertionOrder) {
+namespace {
+
+std::vector<std::pair<std::string, WarningState>> statesInOrder(WarningManagerContext* context) {
+    std::vector<std::pair<std::string, WarningState>> states;
+    utIterateOverWarningStatuses(context,
+                                 [&](const std::string& id, WarningState state) { states.emplace_back(id, state); });
+    return states;
+}
+
+}  // namespace
+
+TEST_F(WarningManager, StatesFallBackToTheDefaultAndKeepTheOrderOfFirstSetting) {
     // A new context has every warning on, and of the modes only backtrace.
     EXPECT_EQ(utGetWarningStatus(context, "x:y"), WarningState::On);
     EXPECT_FALSE(utIsWarningModeOn(context, WarningMode::Debug));
@@ -23,16 +40,51 @@ TEST_F(WarningManager, StatesFallBackToTheDefaultAndKeepInsertionOrder) {
     EXPECT_FALSE(utIsWarningModeOn(context, WarningMode::Verbose));
     utSetWarningStatus(context, "z:z", WarningState::Off);
     utSetWarningStatus(context, "a:a", WarningState::Off);
-    utSetWarningStatus(context, "a:a", WarningState::Error);
-    utSetWarningStatus(context, "All", WarningState::Off);
-    utSetWarningStatus(context, "A:A", WarningState::On);  // identifiers keep their case
-    EXPECT_EQ(utGetWarningStatus(context, "x:y"), WarningState::Off);
+    utSetWarningStatus(context, "A:A", WarningState::On);     // identifiers keep their case
+    utSetWarningStatus(context, "a:a", WarningState::Error);  // keeps its place
+    EXPECT_EQ(utGetWarningStatus(context, "x:y"), WarningState::On);
     EXPECT_EQ(utGetWarningStatus(context, "a:a"), WarningState::Error);
     EXPECT_EQ(utGetWarningStatus(context, "A:A"), WarningState::On);
-    std::vector<std::string> order;
-    utIterateOverWarningStatuses(context, [&](const std::string& id, WarningState) { order.push_back(id); });
-    EXPECT_EQ(order, (std::vector<std::string>{"z:z", "a:a", "A:A"}));
+    using States = std::vector<std::pair<std::string, WarningState>>;
+    EXPECT_EQ(statesInOrder(context),
+              (States{{"z:z", WarningState::Off}, {"a:a", WarningState::Error}, {"A:A", WarningState::On}}));
     EXPECT_EQ(utCountWarningsInWarningManager(context), 3u);
+}
+
+TEST_F(WarningManager, SettingAllRemovesEveryOwnStateAndStartsTheOrderAnew) {
+    constexpr WarningState kStates[] = {WarningState::Off, WarningState::On, WarningState::Error};
+    constexpr const char* kSpellings[] = {"all", "All", "ALL"};  // indexed by the new default
+    for (const WarningState own : kStates)
+        for (const WarningState all : kStates) {
+            SCOPED_TRACE(::testing::Message() << "own " << static_cast<int>(own) << ", all " << static_cast<int>(all));
+            utSetWarningStatus(context, "b:b", own);
+            utSetWarningStatus(context, "a:a", own);
+            utSetWarningStatus(context, kSpellings[static_cast<int>(all)], all);
+            EXPECT_EQ(utCountWarningsInWarningManager(context), 0u);
+            EXPECT_TRUE(statesInOrder(context).empty());
+            EXPECT_EQ(utGetWarningStatus(context, "b:b"), all);
+            utSetWarningStatus(context, "a:a", own);
+            utSetWarningStatus(context, "b:b", own);
+            EXPECT_EQ(statesInOrder(context).front().first, "a:a") << "the first set after the reset comes first";
+            utSetWarningStatus(context, "all", WarningState::On);
+        }
+}
+
+TEST_F(WarningManager, ManyStatesAreFoundAndVisitedInTheOrderOfFirstSetting) {
+    // Enough identifiers for the table to grow many times over.
+    constexpr int kCount = 5000;
+    const auto identifier = [](int i) { return "id:n" + std::to_string((i * 7919) % kCount); };
+    const auto stateOf = [](int i) { return static_cast<WarningState>(i % 3); };
+    for (int i = 0; i < kCount; ++i) utSetWarningStatus(context, identifier(i), WarningState::Error);
+    for (int i = kCount - 1; i >= 0; --i) utSetWarningStatus(context, identifier(i), stateOf(i));
+    EXPECT_EQ(utCountWarningsInWarningManager(context), static_cast<std::size_t>(kCount));
+    const auto states = statesInOrder(context);
+    ASSERT_EQ(states.size(), static_cast<std::size_t>(kCount));
+    for (int i = 0; i < kCount; ++i) {
+        ASSERT_EQ(states[static_cast<std::size_t>(i)], std::make_pair(identifier(i), stateOf(i))) << i;
+        ASSERT_EQ(utGetWarningStatus(context, identifier(i)), stateOf(i)) << i;
+    }
+    EXPECT_EQ(utGetWarningStatus(context, "id:n"), WarningState::On) << "a prefix is another identifier";
 }
 
 TEST_F(WarningManager, KeepsTheLastWarningAndCallsTheRegisteredCallbackUntilRemoved) {
@@ -114,4 +166,22 @@ TEST_F(WarningManager, MachineDestroysItsLogWhileItsFiltersStillExist) {
     EXPECT_EQ(destroyed, (std::vector<std::pair<int, utWarningLog*>>{{1, log}}));
     EXPECT_FALSE(issueWarningWithoutLogging(context, "a:b", u"shown"));
     EXPECT_EQ(takePrinted(), "Warning: shown\n") << "the inner machine's filter never applied here";
+}
+
+TEST_F(WarningManager, SettingAllGivesBackTheMemoryOfTheStates) {
+#ifdef ORRERY_ADDRESS_SANITIZER
+    GTEST_SKIP() << "the sanitizer's allocator keeps the C library's heap figures still";
+#else
+    // Blocks in the heap's arenas and those mapped on their own (the large ones).
+    const auto heapInUse = [] {
+        const struct mallinfo2 heap = mallinfo2();
+        return static_cast<long long>(heap.uordblks + heap.hblkhd);
+    };
+    const long long before = heapInUse();
+    for (int i = 0; i < 20'000; ++i) utSetWarningStatus(context, "id:n" + std::to_string(i), WarningState::Off);
+    EXPECT_GT(heapInUse() - before, 1'000'000) << "each state takes room";
+    utSetWarningStatus(context, "all", WarningState::Off);
+    // What stays is the empty table's own, however many states it held.
+    EXPECT_LT(heapInUse() - before, 16'384);
+#endif
 }

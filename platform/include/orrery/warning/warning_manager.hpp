@@ -22,15 +22,18 @@ using utWarningLogDestroyFcn = void (*)(utWarningLog*);
 /// The current virtual machine's context, or null when there is no machine.
 ORRERY_API WarningManagerContext* utGetWarningManagerContext();
 
-/// The identifier's own state, else the "all" default.
+/// The identifier's own state, else the "all" default: one hashed lookup, however many
+/// identifiers have a state.
 ORRERY_API WarningState utGetWarningStatus(WarningManagerContext* context, std::string_view identifier);
-/// Sets an identifier's state; "all" (any case) sets the default. A value that is
-/// not a WarningState is an internal error.
+/// Sets an identifier's own state. "all" (any case) sets the default and removes
+/// every identifier's own state, so that each then has the new default. A value
+/// that is not a WarningState is an internal error.
 ORRERY_API void utSetWarningStatus(WarningManagerContext* context, std::string_view identifier, WarningState state);
-/// Calls visit(identifier, state) for every identifier with a state, in insertion order.
+/// Calls visit(identifier, state) for every identifier with a state of its own, in
+/// the order they were first given one since "all" was last set.
 ORRERY_API void utIterateOverWarningStatuses(WarningManagerContext* context,
                                              const std::function<void(const std::string&, WarningState)>& visit);
-/// The number of identifiers with a state of their own.
+/// The number of identifiers with a state of their own, kept as they are set.
 ORRERY_API std::size_t utCountWarningsInWarningManager(WarningManagerContext* context);
 
 /// Switches a mode on or off. A value that is not a WarningMode is an internal error.
