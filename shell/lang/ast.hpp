@@ -138,6 +138,9 @@ struct FunctionDef {
     std::vector<std::string> inputs;
     std::vector<std::string> outputs;
     Block body;
+    /// The body ran to the end of the source with no "end" or next "function":
+    /// right for a script file, a block still open at the prompt.
+    bool endedWithSource = false;
 };
 
 /// A parsed source: its statements and the functions it defines.

@@ -16,7 +16,10 @@ bool needsMoreInput(std::string_view source) {
         ~KeepLastError() { except::QException::LastError::Set(saved.identifier, saved.message, saved.stack); }
     } keep;
     try {
-        parse(source, u"<prompt>");
+        const Program program = parse(source, u"<prompt>");
+        // At the prompt a function is a block like any other: it waits for its "end".
+        for (const auto& [name, function] : program.functions)
+            if (function->endedWithSource) return true;
         return false;
     } catch (const except::IMsgIDException& failure) {
         if (failure.is(UnterminatedComment::identifierText)) return true;

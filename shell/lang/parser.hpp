@@ -24,8 +24,8 @@ Program parse(std::string_view source, std::u16string sourceName);
 namespace orrery::shell::lang {
 
 /// True when the text is a correct beginning that more lines would complete:
-/// an open block, bracket or block comment at its end. The prompt then reads
-/// on instead of reporting an error.
+/// an open block (a function definition included), bracket or block comment
+/// at its end. The prompt then reads on instead of reporting an error.
 bool needsMoreInput(std::string_view source);
 
 }  // namespace orrery::shell::lang

@@ -108,6 +108,7 @@ void Parser::parseFunction() {
     def->body = parseBlock({End, Function});
     loopDepth_ = outerLoops;
     --blockDepth_;
+    def->endedWithSource = at(EndOfInput);
     accept(End);
     if (program_.functions.contains(def->name)) {
         except::throwMessage(

@@ -11,6 +11,8 @@
 
 #include <readline.h>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <clocale>
@@ -31,8 +33,28 @@ struct FreeLine {
 };
 using Line = std::unique_ptr<char, FreeLine>;
 
-/// The line editor with the history loaded; each line added is saved at once,
-/// so a session that ends abruptly keeps what was typed.
+/// Holds an exclusive lock on a file while it lives (none when it cannot be opened).
+class FileLock {
+public:
+    explicit FileLock(const std::filesystem::path& file)
+        : descriptor_(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
+        if (descriptor_ >= 0) ::flock(descriptor_, LOCK_EX);
+    }
+    ~FileLock() {
+        if (descriptor_ >= 0) ::close(descriptor_);  // closing releases the lock
+    }
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+
+private:
+    int descriptor_;
+};
+
+/// The line editor with the history loaded. Each line added is saved at once,
+/// so a session that ends abruptly keeps what was typed. Sessions share the
+/// file: under its lock the history is read again, the line added and the file
+/// written, so two sessions at once both keep their lines, interleaved as they
+/// were typed, and the history shows both.
 class History {
 public:
     History() : file_(historyFile()) {
@@ -49,8 +71,15 @@ public:
 
     void add(const std::string& line) const {
         if (line.find_first_not_of(" \t") == std::string::npos) return;
+        if (file_.empty()) {
+            add_history(line.c_str());
+            return;
+        }
+        const FileLock lock(file_);
+        clear_history();
+        read_history(file_.c_str());
         add_history(line.c_str());
-        if (!file_.empty()) write_history(file_.c_str());
+        write_history(file_.c_str());
     }
 
 private:

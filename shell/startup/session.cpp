@@ -2,6 +2,7 @@
 #include "shell/startup/session.hpp"
 
 #include "shell/eval/exit_request.hpp"
+#include "shell/eval/interrupt.hpp"
 #include "shell/eval/user_error.hpp"
 #include "shell/lang/parser.hpp"
 #include "shell/startup/startup_messages.hpp"
@@ -9,6 +10,8 @@
 #include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
+
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -21,6 +24,9 @@ namespace {
 
 void reportError(const except::QException& error) {
     eval::recordLastError(error);
+    // The terminal has echoed the Ctrl-C that interrupted the run: its line ends first.
+    if (eval::isInterruption(error) && ::isatty(STDERR_FILENO) != 0)
+        console::consoleWrite(console::ConsoleStream::Error, "\n");
     console::consoleWrite(console::ConsoleStream::Error, eval::uncaughtErrorText(error));
 }
 

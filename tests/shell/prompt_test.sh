@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Drives the orrery prompt through a pseudo-terminal (tmux): results show, an
-# error is reported and the session goes on, help answers, a block typed over
-# several lines runs once complete, each line reaches the history file as it is entered,
-# Ctrl-C stops a loop (even inside try) and drops a half-typed line or block
-# without ending the session, text typed or piped in keeps its UTF-8
-# characters, and `exit` ends it.
+# error is reported and the session goes on, help answers, a block or a function
+# typed (or piped) over several lines runs once complete, each line reaches the
+# history file as it is entered and two sessions both keep theirs, Ctrl-C stops a
+# loop (even inside try) with its error on a line of its own and drops a
+# half-typed line or block without ending the session, text typed or piped in
+# keeps its UTF-8 characters, and `exit` ends it.
 # Exits 77 (skipped) when tmux is not installed.
 set -euo pipefail
 
@@ -44,6 +45,12 @@ if [[ "$piped" != $'<\xc3\xa9\xe6\x97\xa5>' ]]; then
   exit 1
 fi
 
+piped=$(printf 'function r = sq(v)\nr = v^2;\nend\ndisp(sq(3))\n' | "$orrery" 2>&1)
+if [[ "$piped" != $'9\n' && "$piped" != '9' ]]; then
+  echo "FAIL: a function piped in over several lines: $piped"
+  exit 1
+fi
+
 tmux -L "$socket" -u -f /dev/null new-session -d -s prompt -x 120 -y 50 \
   "env HOME='$work' LC_ALL=C.UTF-8 '$orrery'; echo SESSION-ENDED status=\$?; sleep 60"
 
@@ -66,10 +73,36 @@ if ! grep -qE 'y( |\\040)=( |\\040)x' "$work/.orrery_history"; then
   exit 1
 fi
 
+send 'function r = twice(v)'
+wait_for '..'
+send 'r = 2 * v;'
+send 'end'
+send 'disp(twice(50))'
+wait_for '100'
+
+# a second session at the same time: each keeps the other's lines
+tmux -L "$socket" -u -f /dev/null new-session -d -s other -x 80 -y 10 \
+  "env HOME='$work' LC_ALL=C.UTF-8 '$orrery'"
+tmux -L "$socket" send-keys -t other -l 'fromOther = 7'
+tmux -L "$socket" send-keys -t other Enter
+sleep 0.5
+send 'fromFirst = 8'
+wait_for 'fromFirst = 8'
+if ! grep -q 'fromOther' "$work/.orrery_history" || ! grep -q 'fromFirst' "$work/.orrery_history"; then
+  echo "FAIL: a session overwrote the other's history"
+  cat "$work/.orrery_history"
+  exit 1
+fi
+
 send 'try, while true, end, catch, disp(99), end'
 sleep 0.3
 ctrl_c
 wait_for 'Error: Interrupted'
+if ! screen | grep -q '^Error: Interrupted'; then
+  echo "FAIL: the interruption's error is not on a line of its own"
+  screen
+  exit 1
+fi
 type_only 'x = 1000'
 wait_for '>> x = 1000'
 ctrl_c
