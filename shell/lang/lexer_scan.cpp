@@ -2,7 +2,9 @@
 #include "shell/lang/lexer_state.hpp"
 #include "shell/lang/syntax_messages.hpp"
 
+#include <orrery/except/host_messages.hpp>
 #include <orrery/except/internal_error.hpp>
+#include <orrery/except/msg_id_exception.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/identifiers.hpp>
 #include <orrery/text/number_text.hpp>
@@ -85,7 +87,7 @@ void Lexer::lexQuoted(char quote, TokenKind kind) {
         }
     }
     Token& token = emit(kind, start);
-    token.textValue = text::utf8ToUtf16(bytes);
+    token.textValue = textValue(bytes, start);
 }
 
 bool Lexer::atBlockCommentStart() const {
@@ -163,7 +165,16 @@ void Lexer::lexCommandWords() {
             }
         }
         Token& token = emit(TokenKind::CommandWord, start);
-        token.textValue = text::utf8ToUtf16(bytes);
+        token.textValue = textValue(bytes, start);
+    }
+}
+
+std::u16string Lexer::textValue(const std::string& bytes, SourcePos start) const {
+    try {
+        return text::utf8ToUtf16(bytes);
+    } catch (const except::IMsgIDException& failure) {
+        if (!failure.is(except::host::InvalidUtf8::identifierText)) throw;
+        except::throwMessage(BadText(sourceName_, start.line, start.column));
     }
 }
 

@@ -44,6 +44,9 @@ private:
     bool commandSyntaxFollows() const;
     void lexCommandWords();
     [[noreturn]] void badCharacter() const;
+    /// The UTF-16 value of a quoted text or command word that starts at start;
+    /// bytes that are not UTF-8 are a syntax error there.
+    std::u16string textValue(const std::string& bytes, SourcePos start) const;
 
     char peek(std::size_t ahead = 0) const { return pos_ + ahead < src_.size() ? src_[pos_ + ahead] : '\0'; }
     bool atEnd() const { return pos_ >= src_.size(); }

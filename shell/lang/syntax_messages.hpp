@@ -11,6 +11,8 @@ ORRERY_MESSAGE_KEY(UnexpectedToken, "ORRERY:shell:unexpectedToken");
 ORRERY_MESSAGE_KEY(UnterminatedText, "ORRERY:shell:unterminatedText");
 /// {3}: the character.
 ORRERY_MESSAGE_KEY(BadCharacter, "ORRERY:shell:badCharacter");
+/// A quoted text or command word that is not UTF-8.
+ORRERY_MESSAGE_KEY(BadText, "ORRERY:shell:badText");
 /// {3}: the spelling.
 ORRERY_MESSAGE_KEY(BadNumber, "ORRERY:shell:badNumber");
 ORRERY_MESSAGE_KEY(UnterminatedComment, "ORRERY:shell:unterminatedComment");

@@ -13,6 +13,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -90,9 +91,16 @@ RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file
         if (standardInput) {
             content << std::cin.rdbuf();
         } else {
-            std::ifstream in(file, std::ios::binary);
-            content << in.rdbuf();
-            if (!in || std::filesystem::is_directory(file)) except::throwMessage(CannotRead(text::utf8ToUtf16(file)));
+            std::error_code ignored;
+            errno = std::filesystem::is_directory(file, ignored) ? EISDIR : 0;
+            std::ifstream in;
+            if (errno == 0) in.open(file, std::ios::binary);
+            if (in.is_open()) content << in.rdbuf();
+            if (!in.is_open() || !in) {
+                const int reason = errno != 0 ? errno : EIO;
+                except::throwMessage(CannotRead(text::utf8ToUtf16(file),
+                                                text::utf8ToUtf16Lossy(std::generic_category().message(reason))));
+            }
         }
         std::string source = content.str();
         // an editor's UTF-8 byte-order mark is not part of the program

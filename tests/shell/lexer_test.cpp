@@ -82,6 +82,8 @@ TEST(Lexer, RefusesMalformedText) {
         {"x = 1e", "ORRERY:shell:badNumber"},
         {"x = $", "ORRERY:shell:badCharacter"},
         {"%{\nnever closed", "ORRERY:shell:unterminatedComment"},
+        {"x = 'a\xFF'", "ORRERY:shell:badText"},
+        {"disp a\xC3", "ORRERY:shell:badText"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.source);
@@ -91,6 +93,8 @@ TEST(Lexer, RefusesMalformedText) {
     // or else the offending byte.
     EXPECT_MSGID_TEXT(tokenize("x = \xC3\xA9", u"demo.orr"), "ORRERY:shell:badCharacter",
                       "Syntax error in demo.orr at line 1, column 5: the character '\xC3\xA9' is not allowed here.");
+    EXPECT_MSGID_TEXT(tokenize("x = 1;\ny = \"a\xE9\"", u"demo.orr"), "ORRERY:shell:badText",
+                      "Syntax error in demo.orr at line 2, column 5: the text starting here is not valid UTF-8.");
     const std::pair<const char*, const char*> shown[] = {
         {"x = \xF0\x9F\x98\x80", "the character '\xF0\x9F\x98\x80' is"},
         {"x = \xC3", "the character byte 0xC3 is"},
