@@ -1,7 +1,7 @@
 # What `cmake --install` puts under the prefix (layout in install_layout.cmake):
 # the platform library with its public headers and a CMake package and
 # pkg-config file for it, the module with its exported headers, the compiled
-# catalogue and the shell.
+# catalogue, the shell and the embedding example.
 include(CMakePackageConfigHelpers)
 
 # The platform library, exported as Orrery::platform.
@@ -34,6 +34,9 @@ if(TARGET orrery)
   set_target_properties(orrery PROPERTIES INSTALL_RPATH "$ORIGIN/${ORRERY_LIBDIR_FROM_BINDIR}")
   install(TARGETS orrery RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
+
+# The embedding example (docs/EMBEDDING.md), buildable from where it is installed.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/embedding DESTINATION ${CMAKE_INSTALL_DATADIR}/orrery/examples)
 
 # find_package(OrreryPlatform): Orrery::platform and OrreryPlatform_MODULE.
 install(EXPORT OrreryPlatformTargets NAMESPACE Orrery:: DESTINATION ${ORRERY_INSTALL_CMAKEDIR})
