@@ -41,6 +41,10 @@ public:
     Workspace& baseWorkspace() { return base_; }
     /// True when the workspace that is running has the variable.
     bool isVariable(std::string_view name) const { return current_->contains(name); }
+    /// The names a statement can use now besides the registered functions and the
+    /// keywords: the running workspace's variables, the script functions defined
+    /// and the session commands.
+    std::vector<std::string> namesInScope() const;
 
 private:
     enum class Flow { Normal, Break, Continue, Return };

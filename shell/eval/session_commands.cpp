@@ -39,6 +39,13 @@ int exitStatus(const std::string& name, const std::vector<value::ValueArray>& ar
 
 }  // namespace
 
+std::vector<std::string> Interpreter::namesInScope() const {
+    std::vector<std::string> names = current_->names();
+    for (const auto& [name, function] : functions_) names.push_back(name);
+    names.insert(names.end(), kSessionCommands.begin(), kSessionCommands.end());
+    return names;
+}
+
 bool Interpreter::isSessionCommand(std::string_view name) {
     return std::find(kSessionCommands.begin(), kSessionCommands.end(), name) != kSessionCommands.end();
 }

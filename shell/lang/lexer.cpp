@@ -216,4 +216,11 @@ std::vector<Token> tokenize(std::string_view source, std::u16string sourceName) 
     return detail::Lexer(source, std::move(sourceName)).run();
 }
 
+std::vector<std::string_view> keywords() {
+    std::vector<std::string_view> words;
+    words.reserve(std::size(detail::kKeywords));
+    for (const auto& keyword : detail::kKeywords) words.push_back(keyword.text);
+    return words;
+}
+
 }  // namespace orrery::shell::lang

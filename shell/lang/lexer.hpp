@@ -15,4 +15,7 @@ namespace orrery::shell::lang {
 /// the "ORRERY:shell:*" syntax errors for malformed text.
 std::vector<Token> tokenize(std::string_view source, std::u16string sourceName);
 
+/// The language's keywords ("if", "function", ...).
+std::vector<std::string_view> keywords();
+
 }  // namespace orrery::shell::lang

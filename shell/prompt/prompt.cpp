@@ -3,6 +3,7 @@
 
 #include "shell/eval/interrupt.hpp"
 #include "shell/lang/parser.hpp"
+#include "shell/prompt/completion.hpp"
 #include "shell/prompt/interrupt_signal.hpp"
 #include "shell/prompt/terminal_input.hpp"
 #include "shell/startup/session.hpp"
@@ -135,6 +136,7 @@ void runPrompt(eval::Interpreter& interpreter) {
     }
     std::setlocale(LC_CTYPE, "");  // the line editor reads and returns text in the terminal's encoding
     const History history;
+    const Completion completion(interpreter);
     const InterruptSignal interruptSignal;
     for (;;) {
         eval::takeInterrupt();  // a Ctrl-C that came after the last statement's check

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Drives the orrery prompt through a pseudo-terminal (tmux): results show, an
-# error is reported and the session goes on, help answers, a block or a function
+# error is reported and the session goes on, help answers, Tab completes a
+# variable's name, a block or a function
 # typed (or piped) over several lines runs once complete, each line reaches the
 # history file as it is entered and two sessions both keep theirs, Ctrl-C stops a
 # loop (even inside try) with its error on a line of its own and drops a
@@ -72,6 +73,13 @@ if ! grep -qE 'y( |\\040)=( |\\040)x' "$work/.orrery_history"; then
   echo "FAIL: the history file does not hold the lines typed"
   exit 1
 fi
+
+send 'completeMe4711 = 4711;'
+type_only 'disp(completeM'
+tmux -L "$socket" send-keys -t prompt Tab
+sleep 0.3
+send ' + 1)'
+wait_for '4712'
 
 send 'function r = twice(v)'
 wait_for '..'

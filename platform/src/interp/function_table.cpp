@@ -48,6 +48,15 @@ void registerFunction(std::string_view name, LanguageFunction function) {
 
 bool isFunction(std::string_view name) { return static_cast<bool>(lookUp(name)); }
 
+std::vector<std::string> functionNames() {
+    FunctionTable& functions = table();
+    const std::lock_guard guard(functions.lock);
+    std::vector<std::string> names;
+    names.reserve(functions.functions.size());
+    for (const auto& [name, function] : functions.functions) names.push_back(name);
+    return names;
+}
+
 void callFunction(std::string_view name, std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
                   const value::ValueArray* const* prhs) {
     if (ocos::callMethodIfDefined(name, nlhs, plhs, nrhs, prhs)) return;

@@ -6,7 +6,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrery::interp {
 
@@ -22,6 +24,9 @@ ORRERY_API void registerFunction(std::string_view name, LanguageFunction functio
 
 /// True when a function of that name is registered.
 ORRERY_API bool isFunction(std::string_view name);
+
+/// The names of every registered function, in alphabetical order.
+ORRERY_API std::vector<std::string> functionNames();
 
 /// Calls a language function by name. When the class of the first object input
 /// has a method of that name, the method runs instead, its signature checked
