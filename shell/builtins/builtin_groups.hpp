@@ -17,7 +17,7 @@ std::span<const BuiltinEntry> textBuiltins();
 std::span<const BuiltinEntry> textConversionBuiltins();
 /// struct, fieldnames, isfield, properties.
 std::span<const BuiltinEntry> structBuiltins();
-/// abs, isnan, isinf, any, all, sum.
+/// abs, isnan, isinf, any, all, sum, mean, find.
 std::span<const BuiltinEntry> mathBuiltins();
 /// min, max.
 std::span<const BuiltinEntry> extremaBuiltins();
@@ -31,5 +31,11 @@ std::span<const BuiltinEntry> fileBuiltins();
 std::span<const BuiltinEntry> folderBuiltins();
 /// message, getString.
 std::span<const BuiltinEntry> messageBuiltins();
+/// floor, ceil, round, sqrt, exp, log, mod, rem.
+std::span<const BuiltinEntry> elementaryBuiltins();
+/// length, isa, ischar, isnumeric, iscell, isstruct.
+std::span<const BuiltinEntry> kindBuiltins();
+/// num2str, upper, lower, strrep, strtrim, strsplit, strjoin.
+std::span<const BuiltinEntry> textEditBuiltins();
 
 }  // namespace orrery::shell::builtins

@@ -2,29 +2,15 @@
 // index of the element found) or element by element of two arrays.
 #include "shell/builtins/array_slices.hpp"
 #include "shell/builtins/builtin_groups.hpp"
-#include "shell/builtins/builtin_messages.hpp"
 #include "shell/builtins/builtin_support.hpp"
+#include "shell/builtins/element_pairs.hpp"
 
 #include <orrery/except/argument_errors.hpp>
-#include <orrery/except/throw_message.hpp>
-#include <orrery/text/text.hpp>
 
 #include <cmath>
 
 namespace orrery::shell::builtins {
 namespace {
-
-// Numeric classes stay; logical and char give double.
-ClassId resultClass(const ValueArray& x) { return x.isNumeric() ? x.classId() : ClassId::Double; }
-
-// Two classes combined: an integer class wins, then single, then double.
-ClassId combinedClass(const ValueArray& a, const ValueArray& b) {
-    const ClassId x = resultClass(a);
-    const ClassId y = resultClass(b);
-    if (value::isIntegerClass(x)) return x;
-    if (value::isIntegerClass(y)) return y;
-    return (x == ClassId::Single || y == ClassId::Single) ? ClassId::Single : ClassId::Double;
-}
 
 // True when candidate should replace best: NaN never wins over a number.
 template <bool Max>
@@ -53,17 +39,7 @@ void alongDimension(std::int32_t nlhs, ValueArrayPtr* plhs, const ValueArray& x,
 // Element by element, a scalar pairing with every element of the other array.
 template <bool Max>
 ValueArray elementWise(const ValueArray& a, const ValueArray& b) {
-    if (a.dims() != b.dims() && !a.isScalar() && !b.isScalar())
-        except::throwMessage(
-            messages::SizeMismatch(text::asciiToUtf16(a.dims().text()), text::asciiToUtf16(b.dims().text())));
-    const value::Dims& dims = a.isScalar() ? b.dims() : a.dims();
-    ValueArray result = ValueArray::zeros(combinedClass(a, b), dims);
-    for (std::size_t i = 0; i < result.numel(); ++i) {
-        const double x = a.realAt(a.isScalar() ? 0 : i);
-        const double y = b.realAt(b.isScalar() ? 0 : i);
-        result.setRealAt(i, better<Max>(y, x) ? y : x);
-    }
-    return result;
+    return pairElements(a, b, [](double x, double y) { return better<Max>(y, x) ? y : x; });
 }
 
 // min(x), [m, i] = min(x), min(x, [], dim), min(a, b); max alike.

@@ -18,9 +18,10 @@ void registerTable(std::span<const builtins::BuiltinEntry> table) {
 
 void registerHostBuiltins() {
     using namespace builtins;
-    for (const auto group : {valueBuiltins(), constructionBuiltins(), textBuiltins(), textConversionBuiltins(),
-                             structBuiltins(), mathBuiltins(), extremaBuiltins(), sortBuiltins(), timeBuiltins(),
-                             fileBuiltins(), folderBuiltins(), messageBuiltins()})
+    for (const auto group :
+         {valueBuiltins(), constructionBuiltins(), textBuiltins(), textConversionBuiltins(), structBuiltins(),
+          mathBuiltins(), extremaBuiltins(), sortBuiltins(), timeBuiltins(), fileBuiltins(), folderBuiltins(),
+          messageBuiltins(), elementaryBuiltins(), kindBuiltins(), textEditBuiltins()})
         registerTable(group);
 }
 

@@ -1,11 +1,16 @@
-// Element-wise and reducing math built-ins: abs, isnan, isinf, any, all, sum.
+// Element-wise and reducing math built-ins: abs, isnan, isinf, any, all, sum,
+// mean, and find.
 #include "shell/builtins/array_slices.hpp"
 #include "shell/builtins/builtin_groups.hpp"
+#include "shell/builtins/builtin_messages.hpp"
 #include "shell/builtins/builtin_support.hpp"
 
 #include <orrery/except/argument_errors.hpp>
+#include <orrery/except/throw_message.hpp>
+#include <orrery/text/text.hpp>
 
 #include <cmath>
+#include <vector>
 
 namespace orrery::shell::builtins {
 namespace {
@@ -83,9 +88,41 @@ void bnSum(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const Valu
     plhs[0] = makeValue(std::move(result));
 }
 
+// The mean of each slice: its sum over its length (NaN for an empty slice), in
+// double or single.
+void bnMean(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 2);
+    const ValueArray& x = *prhs[0];
+    const Slices slices = reductionSlices("mean", nrhs, prhs);
+    ValueArray result = ValueArray::zeros(x.is(ClassId::Single) ? ClassId::Single : ClassId::Double, slices.reduced);
+    for (std::size_t k = 0; k < slices.count; ++k) {
+        double total = 0;
+        for (std::size_t j = 0; j < slices.length; ++j) total += x.realAt(slices.at(k, j));
+        result.setRealAt(k, total / static_cast<double>(slices.length));
+    }
+    plhs[0] = makeValue(std::move(result));
+}
+
+// The linear indices (from 1) of the nonzero elements, at most n of them: a row
+// for a row, a column otherwise.
+void bnFind(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
+    checkArgumentCounts(nlhs, 1, nrhs, 1, 2);
+    const ValueArray& x = *prhs[0];
+    requireNumeric(x, "find");
+    const double limit = nrhs > 1 ? prhs[1]->realAt(0) : HUGE_VAL;
+    if (nrhs > 1 && (!prhs[1]->isScalar() || !(limit >= 0) || limit != std::floor(limit)))
+        except::throwMessage(messages::BadCount(text::asciiToUtf16("find")));
+    std::vector<double> found;
+    for (std::size_t i = 0; i < x.numel() && static_cast<double>(found.size()) < limit; ++i)
+        if (x.realAt(i) != 0) found.push_back(static_cast<double>(i + 1));
+    const bool row = x.dims().count() == 2 && x.dims().rows() == 1 && x.numel() > 0;
+    const value::Dims dims = row ? value::Dims{1, found.size()} : value::Dims{found.size(), found.empty() ? 0U : 1U};
+    plhs[0] = makeValue(ValueArray::doubles(dims, std::move(found)));
+}
+
 constexpr BuiltinEntry table[] = {
-    {"abs", bnAbs},           {"isnan", bnIsnan},      {"isinf", bnIsinf},
-    {"any", bnAnyAll<false>}, {"all", bnAnyAll<true>}, {"sum", bnSum},
+    {"abs", bnAbs},          {"isnan", bnIsnan}, {"isinf", bnIsinf}, {"any", bnAnyAll<false>},
+    {"all", bnAnyAll<true>}, {"sum", bnSum},     {"mean", bnMean},   {"find", bnFind},
 };
 
 }  // namespace

@@ -30,5 +30,7 @@ ORRERY_MESSAGE_KEY(ForOverClass, "ORRERY:shell:forOverClass");
 ORRERY_MESSAGE_KEY(OutOfMemory, "ORRERY:shell:outOfMemory");
 ORRERY_MESSAGE_KEY(Interrupted, "ORRERY:shell:interrupted");
 ORRERY_MESSAGE_KEY(BadConversion, "ORRERY:shell:badConversion");
+/// {0}: the script; {1}: why, as the system says it.
+ORRERY_MESSAGE_KEY(CannotRead, "ORRERY:shell:cannotRead");
 
 }  // namespace orrery::shell::eval

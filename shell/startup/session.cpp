@@ -3,6 +3,7 @@
 
 #include "shell/eval/exit_request.hpp"
 #include "shell/eval/interrupt.hpp"
+#include "shell/eval/script_source.hpp"
 #include "shell/eval/user_error.hpp"
 #include "shell/lang/parser.hpp"
 #include "shell/startup/startup_messages.hpp"
@@ -13,9 +14,7 @@
 
 #include <unistd.h>
 
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <string_view>
@@ -86,27 +85,14 @@ RunOutcome runSource(eval::Interpreter& interpreter, std::string_view source, co
 
 RunOutcome runScriptFile(eval::Interpreter& interpreter, const std::string& file) {
     return runAtTopLevel([&] {
-        const bool standardInput = file == kStandardInput;
-        std::ostringstream content;
-        if (standardInput) {
+        if (file == kStandardInput) {
+            std::ostringstream content;
             content << std::cin.rdbuf();
-        } else {
-            std::error_code ignored;
-            errno = std::filesystem::is_directory(file, ignored) ? EISDIR : 0;
-            std::ifstream in;
-            if (errno == 0) in.open(file, std::ios::binary);
-            if (in.is_open()) content << in.rdbuf();
-            if (!in.is_open() || !in) {
-                const int reason = errno != 0 ? errno : EIO;
-                except::throwMessage(CannotRead(text::utf8ToUtf16(file),
-                                                text::utf8ToUtf16Lossy(std::generic_category().message(reason))));
-            }
+            std::string source = content.str();
+            eval::dropByteOrderMark(source);
+            return runProgram(interpreter, source, u"<stdin>", u"stdin");
         }
-        std::string source = content.str();
-        // an editor's UTF-8 byte-order mark is not part of the program
-        constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-        if (source.starts_with(byteOrderMark)) source.erase(0, byteOrderMark.size());
-        if (standardInput) return runProgram(interpreter, source, u"<stdin>", u"stdin");
+        const std::string source = eval::readScript(file);
         const std::u16string name = text::utf8ToUtf16(std::filesystem::path(file).stem().string());
         runProgram(interpreter, source, text::utf8ToUtf16(file), name);
     });

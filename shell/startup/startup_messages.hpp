@@ -11,8 +11,6 @@ ORRERY_MESSAGE_KEY(ModuleNotFound, "ORRERY:shell:moduleNotFound");
 ORRERY_MESSAGE_KEY(ModuleNotLoaded, "ORRERY:shell:moduleNotLoaded");
 /// {0}: the file; {1}: the symbol.
 ORRERY_MESSAGE_KEY(MissingSymbol, "ORRERY:shell:missingSymbol");
-/// {0}: the script; {1}: why, as the system says it.
-ORRERY_MESSAGE_KEY(CannotRead, "ORRERY:shell:cannotRead");
 /// {0}: the option.
 ORRERY_MESSAGE_KEY(UnknownOption, "ORRERY:shell:unknownOption");
 ORRERY_MESSAGE_KEY(MissingText, "ORRERY:shell:missingText");

@@ -104,6 +104,32 @@ int compareIgnoreCase(std::u16string_view a, std::u16string_view b) {
 
 bool equalsIgnoreCase(std::u16string_view a, std::u16string_view b) { return compareIgnoreCase(a, b) == 0; }
 
+namespace {
+
+using CaseMapping = int32_t (*)(UChar*, int32_t, const UChar*, int32_t, const char*, UErrorCode*);
+
+// Maps into a buffer of the text's length, and again into the length ICU asks
+// for when that is longer.
+std::u16string mapCase(std::u16string_view text, CaseMapping mapping) {
+    std::u16string out(text.size(), u'\0');
+    UErrorCode status = U_ZERO_ERROR;
+    int32_t length = mapping(reinterpret_cast<UChar*>(out.data()), static_cast<int32_t>(out.size()), icuUnits(text),
+                             icuLength(text), "", &status);
+    if (status == U_BUFFER_OVERFLOW_ERROR) {
+        out.assign(static_cast<std::size_t>(length), u'\0');
+        status = U_ZERO_ERROR;
+        length = mapping(reinterpret_cast<UChar*>(out.data()), length, icuUnits(text), icuLength(text), "", &status);
+    }
+    if (U_FAILURE(status)) except::throwMessage(except::host::InvalidUtf16());
+    out.resize(static_cast<std::size_t>(length));
+    return out;
+}
+
+}  // namespace
+
+std::u16string toUpperCase(std::u16string_view text) { return mapCase(text, u_strToUpper); }
+std::u16string toLowerCase(std::u16string_view text) { return mapCase(text, u_strToLower); }
+
 bool equalsIgnoreCaseAscii(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i) {

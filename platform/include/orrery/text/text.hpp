@@ -54,6 +54,11 @@ ORRERY_API int compareIgnoreCase(std::u16string_view a, std::u16string_view b);
 /// True when the two texts are equal under full Unicode case folding.
 ORRERY_API bool equalsIgnoreCase(std::u16string_view a, std::u16string_view b);
 
+/// The text in upper or lower case by the full Unicode case mappings of the root
+/// locale (a text may change its length: "ß" becomes "SS").
+ORRERY_API std::u16string toUpperCase(std::u16string_view text);
+ORRERY_API std::u16string toLowerCase(std::u16string_view text);
+
 /// True when the two narrow texts are equal, ASCII letters compared without case.
 ORRERY_API bool equalsIgnoreCaseAscii(std::string_view a, std::string_view b);
 
