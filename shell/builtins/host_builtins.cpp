@@ -14,15 +14,26 @@ void registerTable(std::span<const builtins::BuiltinEntry> table) {
             interp::registerFunction(entry.name, entry.function);
 }
 
+// Every group of the host's built-ins.
+std::vector<std::span<const builtins::BuiltinEntry>> groups() {
+    using namespace builtins;
+    return {valueBuiltins(),      constructionBuiltins(), textBuiltins(),    textConversionBuiltins(),
+            structBuiltins(),     mathBuiltins(),         extremaBuiltins(), sortBuiltins(),
+            timeBuiltins(),       fileBuiltins(),         folderBuiltins(),  messageBuiltins(),
+            elementaryBuiltins(), kindBuiltins(),         textEditBuiltins()};
+}
+
 }  // namespace
 
 void registerHostBuiltins() {
-    using namespace builtins;
-    for (const auto group :
-         {valueBuiltins(), constructionBuiltins(), textBuiltins(), textConversionBuiltins(), structBuiltins(),
-          mathBuiltins(), extremaBuiltins(), sortBuiltins(), timeBuiltins(), fileBuiltins(), folderBuiltins(),
-          messageBuiltins(), elementaryBuiltins(), kindBuiltins(), textEditBuiltins()})
-        registerTable(group);
+    for (const auto group : groups()) registerTable(group);
+}
+
+std::vector<std::string_view> hostBuiltinNames() {
+    std::vector<std::string_view> names;
+    for (const auto group : groups())
+        for (const auto& entry : group) names.push_back(entry.name);
+    return names;
 }
 
 }  // namespace orrery::shell

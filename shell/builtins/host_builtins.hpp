@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string_view>
+#include <vector>
 
 namespace orrery::shell {
 
@@ -10,6 +11,9 @@ namespace orrery::shell {
 /// in the platform's function table. Registering again replaces the same
 /// functions; the platform's own isscalar and sprintf are left in place.
 void registerHostBuiltins();
+
+/// The language names registerHostBuiltins registers.
+std::vector<std::string_view> hostBuiltinNames();
 
 /// Answers whether a name is a variable of the workspace that is running.
 using VariableQuery = std::function<bool(std::string_view name)>;

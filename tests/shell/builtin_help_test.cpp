@@ -1,7 +1,10 @@
-// The help table against what the module really supplies: every function the
-// loader binds or the module registers has an entry, and every entry names
+// The help table against what the module and the host really supply: every
+// function the loader binds, the module registers, the host registers, and
+// every session command has an entry; every entry, alias and "see also" names
 // something that exists. What help prints is shown by the help script test.
 #include "shell/startup/builtin_help.hpp"
+#include "shell/builtins/host_builtins.hpp"
+#include "shell/eval/interpreter.hpp"
 #include "shell/startup/module_loader.hpp"
 
 #include <orrery/interp/function_table.hpp>
@@ -9,7 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 using namespace orrery;
 using shell::startup::findHelp;
@@ -32,6 +37,7 @@ protected:
     static void SetUpTestSuite() {
         module_ = new shell::startup::DiagnosticModule(std::string(ORRERY_OUTPUT_DIR) + "/libdiagnostic.so");
         shell::startup::registerHelp();
+        shell::registerHostBuiltins();
     }
     static void TearDownTestSuite() {
         delete module_;
@@ -57,6 +63,16 @@ TEST_F(ModuleHelp, EveryBoundAndRegisteredFunctionHasAnEntry) {
     }
 }
 
+TEST_F(ModuleHelp, EveryHostFunctionAndSessionCommandHasAnEntry) {
+    const std::vector<std::string_view> host = shell::hostBuiltinNames();
+    ASSERT_GT(host.size(), 50U);
+    for (const std::string_view name : host) EXPECT_NE(findHelp(name), nullptr) << "no help for " << name;
+    for (const std::string_view name : {"help", "isscalar", "sprintf"}) EXPECT_NE(findHelp(name), nullptr) << name;
+    const shell::eval::Interpreter interpreter;
+    for (const std::string& name : interpreter.namesInScope())
+        EXPECT_NE(findHelp(name), nullptr) << "no help for the session command " << name;
+}
+
 TEST_F(ModuleHelp, EveryEntryNamesSomethingThatExistsAndIsComplete) {
     const ocos::COSNamespace* diagnostic = diagnosticNamespace();
     const ocos::COSNamespace* log = diagnosticNamespace("log");
@@ -68,8 +84,17 @@ TEST_F(ModuleHelp, EveryEntryNamesSomethingThatExistsAndIsComplete) {
                                  log->findFunction(name.substr(kLogNamespace.size() + 1)) != nullptr;
         const bool diagnosticClass =
             name.starts_with(kClassPrefix) && diagnostic->findClass(name.substr(kClassPrefix.size())) != nullptr;
-        EXPECT_TRUE(interp::isFunction(name) || logFunction || diagnosticClass);
-        EXPECT_FALSE(entry.summary.empty() || entry.forms.empty() || entry.outputs.empty() || entry.example.empty());
+        const std::vector<std::string> commands = shell::eval::Interpreter().namesInScope();
+        const bool sessionCommand = std::ranges::count(commands, std::string(name)) > 0;
+        EXPECT_TRUE(interp::isFunction(name) || logFunction || diagnosticClass || sessionCommand);
+        EXPECT_FALSE(entry.summary.empty() || entry.forms.empty() || entry.outputs.empty() || entry.example.empty() ||
+                     entry.group.empty() || entry.seeAlso.empty());
         EXPECT_EQ(findHelp(name), &entry) << "a second entry of the same name";
+        for (const std::string_view alias : shell::startup::namesIn(entry.aliases)) {
+            EXPECT_TRUE(interp::isFunction(alias)) << "the alias " << alias << " is no function";
+            EXPECT_EQ(findHelp(alias), &entry) << "the alias " << alias << " has an entry of its own";
+        }
+        for (const std::string_view other : shell::startup::namesIn(entry.seeAlso))
+            EXPECT_NE(findHelp(other), nullptr) << "see also " << other << ", which has no entry";
     }
 }
