@@ -6,6 +6,7 @@
 #include "diagnostic/classes/warning_objects.hpp"
 #include "diagnostic/classes/warning_table.hpp"
 
+#include <orrery/console/console_sink.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
@@ -75,7 +76,7 @@ DispMI::DispMI() : WarningInstanceMI("disp") {}
 
 void DispMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* /*plhs*/, std::int32_t /*nrhs*/,
                     const ValueArray* const* prhs) const {
-    warning::utPrintf("%s", warningTable(*prhs[0]).c_str());
+    console::consoleWrite(console::ConsoleStream::Output, warningTable(*prhs[0]));
 }
 
 }  // namespace orrery::lang::diagnostic

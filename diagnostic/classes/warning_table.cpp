@@ -15,6 +15,13 @@ namespace orrery::lang::diagnostic {
 namespace {
 
 constexpr std::size_t kMessageWidth = 48;
+// U+2400 onwards picture the control characters U+0000 to U+001F; U+2421 pictures DELETE.
+constexpr char16_t kControlPictures = 0x2400;
+constexpr char16_t kDeletePicture = 0x2421;
+// An array with more warnings than a screen holds shows its first ones and says
+// how many more there are.
+constexpr std::size_t kMostRowsShown = 30;
+constexpr std::size_t kFirstRowsShown = 20;
 
 struct Row {
     std::string position;
@@ -38,8 +45,16 @@ std::string timeText(double serial) {
 
 // The message on one line, cut with "..." past the column's width.
 std::u16string oneLine(std::u16string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](char16_t c) { return c == u'\n' || c == u'\r' || c == u'\t'; }, u' ');
+    // Line breaks and tabs become blanks; other control characters (NUL among
+    // them) are shown as their pictures, so that nothing after them is lost.
+    for (char16_t& c : text) {
+        if (c == u'\n' || c == u'\r' || c == u'\t')
+            c = u' ';
+        else if (c < 0x20)
+            c = static_cast<char16_t>(kControlPictures + c);
+        else if (c == 0x7F)
+            c = kDeletePicture;
+    }
     if (text.size() > kMessageWidth) text = text.substr(0, kMessageWidth - 3) + u"...";
     return text;
 }
@@ -48,13 +63,16 @@ std::string padded(const std::u16string& text, std::size_t width) {
     return text::utf16ToUtf8Lossy(text) + std::string(width > text.size() ? width - text.size() : 0, ' ');
 }
 
-// The position from 1, through the C library: the standard library's integer
-// formatting would make its digit tables part of the module's exports.
-std::string positionText(std::size_t i) {
+// A count through the C library: the standard library's integer formatting
+// would make its digit tables part of the module's exports.
+std::string countText(std::size_t n) {
     char buffer[32];
-    std::snprintf(buffer, sizeof buffer, "%zu", i + 1);
+    std::snprintf(buffer, sizeof buffer, "%zu", n);
     return buffer;
 }
+
+// The position from 1.
+std::string positionText(std::size_t i) { return countText(i + 1); }
 
 Row rowOf(const value::ValueArray& objects, std::size_t i) {
     Row row{positionText(i), u"<invalid>", u"", ""};
@@ -78,7 +96,8 @@ std::string warningTable(const value::ValueArray& objects) {
     std::size_t positionWidth = header.position.size();
     std::size_t identifierWidth = header.identifier.size();
     std::size_t messageWidth = header.message.size();
-    for (std::size_t i = 0; i < objects.numel(); ++i) {
+    const std::size_t shown = objects.numel() > kMostRowsShown ? kFirstRowsShown : objects.numel();
+    for (std::size_t i = 0; i < shown; ++i) {
         rows.push_back(rowOf(objects, i));
         positionWidth = std::max(positionWidth, rows.back().position.size());
         identifierWidth = std::max(identifierWidth, rows.back().identifier.size());
@@ -94,6 +113,9 @@ std::string warningTable(const value::ValueArray& objects) {
     };
     line(header);
     for (const Row& row : rows) line(row);
+    if (shown < objects.numel())
+        out += "    ... " + countText(objects.numel() - shown) + " more warnings (" + countText(objects.numel()) +
+               " in all)\n";
     return out;
 }
 

@@ -30,12 +30,31 @@ std::string pageLabel(const value::Dims& dims, std::size_t page) {
     return label + ")";
 }
 
+// A matrix with more rows than a screen holds shows its first rows and says how
+// many more there are.
+constexpr std::size_t kMostRowsShown = 30;
+constexpr std::size_t kFirstRowsShown = 20;
+
+std::string moreRowsLine(std::size_t rows) {
+    return "    ... " + std::to_string(rows - kFirstRowsShown) + " more rows (" + std::to_string(rows) + " in all)\n";
+}
+
+std::string firstRowsGrid(const std::vector<std::string>& texts, std::size_t rows, std::size_t columns,
+                          const GridStyle& style) {
+    if (rows <= kMostRowsShown) return layoutGrid(texts, rows, columns, style);
+    std::vector<std::string> shown;
+    shown.reserve(kFirstRowsShown * columns);
+    for (std::size_t c = 0; c < columns; ++c)
+        for (std::size_t r = 0; r < kFirstRowsShown; ++r) shown.push_back(texts[c * rows + r]);
+    return layoutGrid(shown, kFirstRowsShown, columns, style) + moreRowsLine(rows);
+}
+
 // The grid of texts (column-major, one per element), page by page when the
 // array has more than two dimensions.
 std::string pagedGrid(const std::vector<std::string>& texts, const value::Dims& dims, const GridStyle& style) {
     const std::size_t rows = dims.rows();
     const std::size_t columns = dims.cols();
-    if (dims.count() == 2) return layoutGrid(texts, rows, columns, style);
+    if (dims.count() == 2) return firstRowsGrid(texts, rows, columns, style);
     const std::size_t pageSize = rows * columns;
     const std::size_t pages = pageSize == 0 ? 0 : texts.size() / pageSize;
     std::string out;
@@ -43,7 +62,7 @@ std::string pagedGrid(const std::vector<std::string>& texts, const value::Dims& 
         const std::vector<std::string> page(texts.begin() + static_cast<std::ptrdiff_t>(p * pageSize),
                                             texts.begin() + static_cast<std::ptrdiff_t>((p + 1) * pageSize));
         out += std::string(p == 0 ? "" : "\n") + "  " + pageLabel(dims, p) + " =\n";
-        out += layoutGrid(page, rows, columns, style);
+        out += firstRowsGrid(page, rows, columns, style);
     }
     return out;
 }
@@ -78,6 +97,10 @@ std::string charRows(const ValueArray& chars, bool quoted) {
     const std::size_t columns = rows == 0 ? 0 : units.size() / rows;
     std::string out;
     for (std::size_t r = 0; r < rows; ++r) {
+        if (r == kFirstRowsShown && rows > kMostRowsShown) {
+            out += moreRowsLine(rows);
+            break;
+        }
         std::u16string row;
         for (std::size_t c = 0; c < columns; ++c) row += units[c * rows + r];
         out += quoted ? "    '" + text::utf16ToUtf8Lossy(row) + "'\n" : text::utf16ToUtf8Lossy(row) + "\n";
