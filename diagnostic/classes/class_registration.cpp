@@ -25,6 +25,7 @@ void registerWarningClass(ocos::COSNamespace& internal) {
     log.addFunction(std::make_shared<OpenLogMI>());
     log.addFunction(std::make_shared<CloseLogMI>());
     log.addFunction(std::make_shared<LoadLogMI>());
+    log.addFunction(std::make_shared<SummaryLogMI>());
 }
 
 void registerWarningClassForModule() {

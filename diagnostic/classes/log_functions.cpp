@@ -1,9 +1,11 @@
-// open, close and load of warning logs, called from the language by dotted name.
+// open, close, load and summary of warning logs, called from the language by
+// dotted name.
 #include "diagnostic/classes/log_functions.hpp"
 
 #include "diagnostic/classes/warning_info.hpp"
 #include "diagnostic/log/issue_warning.hpp"
 #include "diagnostic/log/warning_log_reader.hpp"
+#include "diagnostic/log/warning_log_summary.hpp"
 #include "diagnostic/record/convert_moved_warnings.hpp"
 
 #include <orrery/except/internal_error.hpp>
@@ -50,6 +52,29 @@ void LoadLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* plhs, std::i
     const std::u16string fileName = prhs[0]->text();
     // The reader raises before anything is made, so a failure leaves no array.
     plhs[0] = convertWarningsToValueArray(readWarningLog(fileName));
+}
+
+SummaryLogMI::SummaryLogMI() : WarningBaseMI("summary") {
+    addInput(ocos::intern("unicodeString"));
+    addOutput(ocos::intern("struct"));
+}
+
+void SummaryLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* plhs, std::int32_t /*nrhs*/,
+                          const value::ValueArray* const* prhs) const {
+    using value::ValueArray;
+    const std::vector<IdentifierTally> tallies = summariseWarningLog(prhs[0]->text(), kSummaryParts);
+    ValueArray summary = ValueArray::structArray(value::Dims{tallies.size(), 1},
+                                                 {"identifier", "count", "disabled", "first", "last", "timeline"});
+    for (std::size_t i = 0; i < tallies.size(); ++i) {
+        const IdentifierTally& tally = tallies[i];
+        summary.setField(i, "identifier", ValueArray::charsFromUtf8(tally.identifier));
+        summary.setField(i, "count", ValueArray::scalar(static_cast<double>(tally.count)));
+        summary.setField(i, "disabled", ValueArray::scalar(static_cast<double>(tally.disabled)));
+        summary.setField(i, "first", ValueArray::scalar(tally.first));
+        summary.setField(i, "last", ValueArray::scalar(tally.last));
+        summary.setField(i, "timeline", ValueArray::doubles(value::Dims{1, tally.timeline.size()}, tally.timeline));
+    }
+    plhs[0] = value::makeValue(std::move(summary));
 }
 
 }  // namespace orrery::lang::diagnostic

@@ -1,4 +1,5 @@
-// The functions of namespace orrery.internal.diagnostic.log: open, close, load.
+// The functions of namespace orrery.internal.diagnostic.log: open, close, load
+// and summary.
 #pragma once
 
 #include "diagnostic/classes/warning_methods.hpp"
@@ -32,5 +33,20 @@ public:
     void invoke(std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
                 const value::ValueArray* const* prhs) const override;
 };
+
+/// s = summary(fileName): the log's warnings counted per identifier without
+/// loading them, an N-by-1 struct array in the order of each identifier's first
+/// warning, with the fields identifier, count, disabled, first, last (serial day
+/// numbers) and timeline (a 1-by-kSummaryParts row: how many of the
+/// identifier's warnings fell into each equal part of the log's time span).
+class SummaryLogMI final : public WarningBaseMI {
+public:
+    SummaryLogMI();
+    void invoke(std::int32_t nlhs, value::ValueArrayPtr* plhs, std::int32_t nrhs,
+                const value::ValueArray* const* prhs) const override;
+};
+
+/// The parts of a summary's timeline.
+inline constexpr std::size_t kSummaryParts = 16;
 
 }  // namespace orrery::lang::diagnostic

@@ -67,8 +67,8 @@ void checkNoAttributes(const XML_Char* name, const XML_Char** attributes) { chec
 
 }  // namespace
 
-WarningLogEvents::WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset)
-    : scanOnly_(scanOnly), localOffset_(localOffset) {}
+WarningLogEvents::WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset, WarningHeadVisitor visitHead)
+    : scanOnly_(scanOnly), localOffset_(localOffset), visitHead_(std::move(visitHead)) {}
 
 // ---- element start ------------------------------------------------------------------
 
@@ -123,7 +123,10 @@ void WarningLogEvents::startWarning(const XML_Char** values) {
     const std::string_view wasDisabled = values[2];
     if (wasDisabled != "true" && wasDisabled != "false")
         except::throwMessage(ids::XmlInvalidWasDisabled(utf16(wasDisabled)));
-    if (scanOnly_) return;
+    if (scanOnly_) {
+        if (visitHead_) visitHead_(identifier, wasDisabled == "true", readLogTime(values[1], localOffset_));
+        return;
+    }
     Warning& record = warnings_.emplace_back();
     record.setIdentifier(std::string(identifier));
     record.setWasDisabled(wasDisabled == "true");

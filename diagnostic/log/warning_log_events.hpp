@@ -10,22 +10,28 @@
 #include <expat.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orrery::lang::diagnostic {
 
+/// What a summary reads of each warning: identifier, wasDisabled and time.
+using WarningHeadVisitor = std::function<void(std::string_view identifier, bool wasDisabled, double time)>;
+
 /// Checks the nesting log, warning, leaf ("message", "format", "arg", "frame")
 /// and every attribute and text, and builds one record per "warning" element.
 /// In scan-only mode it checks the structure, identifiers, wasDisabled values,
-/// argument types and frames, but builds nothing and reads no times. Every
+/// argument types and frames, but builds nothing and reads no times; given a
+/// visitor, it reads each warning's time too and hands the visitor the warning's
+/// head (a summary that needs no texts, arguments or frames). Every
 /// failure is raised as its "ORRERY:warning:XMLParser" identifier (or
 /// boost::bad_lexical_cast for an argument text); the machine is then spent.
 class WarningLogEvents {
 public:
     /// localOffset: the reader's offset from UTC, to which times are moved.
-    WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset);
+    WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset, WarningHeadVisitor visitHead = {});
 
     /// An element starts: its name and Expat's null-terminated attribute list.
     void startElement(const XML_Char* name, const XML_Char** attributes);
@@ -49,6 +55,7 @@ private:
 
     bool scanOnly_;
     interp::UtcOffset localOffset_;
+    WarningHeadVisitor visitHead_;
     std::vector<Warning> warnings_;
     std::vector<PrintfArgument> pendingArguments_;
     std::vector<StackFrame> pendingFrames_;

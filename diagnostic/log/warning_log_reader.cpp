@@ -37,11 +37,13 @@ constexpr std::size_t kReadAhead = std::size_t{64} * 1024;
 // stopped, and the failure raised again once Expat has returned.
 class WarningLogReader {
 public:
-    WarningLogReader(const LogFileDescriptor& file, std::u16string fileName, bool scanOnly)
+    WarningLogReader(const LogFileDescriptor& file, std::u16string fileName, bool scanOnly,
+                     WarningHeadVisitor visitHead = {})
         : file_(file),
           fileName_(std::move(fileName)),
           parser_(makeExpatParser()),
-          events_(scanOnly, scanOnly ? interp::UtcOffset{} : interp::localUtcOffset()) {
+          events_(scanOnly, scanOnly && !visitHead ? interp::UtcOffset{} : interp::localUtcOffset(),
+                  std::move(visitHead)) {
         XML_SetUserData(parser_.get(), this);
         XML_SetElementHandler(parser_.get(), &WarningLogReader::onStart, &WarningLogReader::onEnd);
         XML_SetXmlDeclHandler(parser_.get(), &WarningLogReader::onDeclaration);
@@ -192,5 +194,12 @@ LogScan scanLog(const LogFileDescriptor& file, const std::u16string& path) {
 }
 
 std::uint64_t findLogEnd(const std::u16string& path) { return scanLog(openForReading(path), path).logEnd; }
+
+void visitWarningLog(const std::u16string& fileName, const WarningHeadVisitor& visitHead) {
+    const std::u16string path = normaliseLogFileName(fileName);
+    const LogFileDescriptor file = openForReading(path);
+    WarningLogReader reader(file, path, true, visitHead);
+    reader.read();
+}
 
 }  // namespace orrery::lang::diagnostic

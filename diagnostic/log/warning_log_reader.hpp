@@ -3,6 +3,7 @@
 #pragma once
 
 #include "diagnostic/log/log_file_descriptor.hpp"
+#include "diagnostic/log/warning_log_events.hpp"
 
 #include <orrery/lang/warning.hpp>
 
@@ -43,5 +44,11 @@ LogScan scanLog(const LogFileDescriptor& file, const std::u16string& path);
 
 /// scanLog of the file at path, used as given; answers the closing tag's offset.
 std::uint64_t findLogEnd(const std::u16string& path);
+
+/// Checks the log file as readWarningLog does (its name normalised first) and
+/// hands visitHead each warning's identifier, wasDisabled and time, in file
+/// order, without building records: memory stays the same whatever the file's
+/// size. Raises as readWarningLog does.
+void visitWarningLog(const std::u16string& fileName, const WarningHeadVisitor& visitHead);
 
 }  // namespace orrery::lang::diagnostic

@@ -82,6 +82,12 @@ constexpr HelpEntry kEntries[] = {
      "w = orrery.internal.diagnostic.log.load(file)\tthe warnings of file, in the order they were written",
      "w: 1-by-N orrery.internal.diagnostic.Warning array", "w = orrery.internal.diagnostic.log.load('flight.xml')",
      "Warning logs", "orrery.internal.diagnostic.Warning, orrery.internal.diagnostic.log.open", ""},
+    {"orrery.internal.diagnostic.log.summary", "count a warning log's warnings per identifier without loading them",
+     "s = orrery.internal.diagnostic.log.summary(file)\tone row per identifier, in the order of its first warning",
+     "s: N-by-1 struct with identifier, count, disabled, first, last (serial day numbers) and timeline\n"
+     "(how many fell into each of 16 equal parts of the log's time span)",
+     "s = orrery.internal.diagnostic.log.summary('flight.xml'); s(1).count", "Warning logs",
+     "orrery.internal.diagnostic.log.load", ""},
     {"orrery.internal.diagnostic.Warning", "one logged warning (the elements that load returns)",
      "w.identifier, w.message\tthe warning's identifier and message\n"
      "w.format, w.arguments\tits format and format arguments (cell)\n"

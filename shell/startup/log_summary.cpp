@@ -1,4 +1,4 @@
-// Reading a warning log through the module and counting its warnings per identifier.
+// A warning log counted per identifier through the module.
 #include "shell/startup/log_summary.hpp"
 
 #include "shell/eval/user_error.hpp"
@@ -14,68 +14,66 @@
 #include <orrery/value/value_array.hpp>
 
 #include <algorithm>
-#include <map>
 
 namespace orrery::shell::startup {
 namespace {
 
-constexpr std::string_view kLoadFunction = "orrery.internal.diagnostic.log.load";
+constexpr std::string_view kSummaryFunction = "orrery.internal.diagnostic.log.summary";
 
-value::ValueArray loadWarningObjects(const std::string& file) {
+value::ValueArray summaryStructure(const std::string& file) {
     const auto name = value::ValueArray::charsFromUtf8(file);
     const value::ValueArray* inputs[] = {&name};
     value::ValueArrayPtr output;
     try {
         try {
-            ocos::callNamespaceFunction(kLoadFunction, 1, &output, 1, inputs);
+            ocos::callNamespaceFunction(kSummaryFunction, 1, &output, 1, inputs);
         } catch (...) {
-            eval::rethrowAsUserError(std::string(kLoadFunction));
+            eval::rethrowAsUserError(std::string(kSummaryFunction));
         }
     } catch (const except::QException& failure) {
         except::throwMessage(
             LogSummaryFailed(text::utf8ToUtf16Lossy(file), text::utf8ToUtf16(failure.identifier()), failure.message()));
     }
-    if (!output) except::internalError("shell", "the log's load function gave no value");
+    if (!output) except::internalError("shell", "the log's summary function gave no value");
     return std::move(*output);
+}
+
+double numberField(const value::ValueArray& summary, std::size_t i, std::string_view name) {
+    const value::ValueArray* field = summary.field(i, name);
+    if (field == nullptr || !field->isScalar()) except::internalError("shell", "a log summary lacks a number");
+    return field->realAt(0);
 }
 
 }  // namespace
 
-std::vector<LoggedWarning> readLoggedWarnings(const std::string& file) {
-    const value::ValueArray objects = loadWarningObjects(file);
-    std::vector<LoggedWarning> warnings;
-    warnings.reserve(objects.numel());
-    for (std::size_t i = 0; i < objects.numel(); ++i) {
-        warnings.push_back({text::utf16ToUtf8(ocos::getProperty(objects, i, "identifier").text()),
-                            ocos::getProperty(objects, i, "wasDisabled").logicalAt(0),
-                            ocos::getProperty(objects, i, "time").realAt(0)});
+std::vector<IdentifierSummary> readLogSummary(const std::string& file) {
+    const value::ValueArray summary = summaryStructure(file);
+    std::vector<IdentifierSummary> entries;
+    entries.reserve(summary.numel());
+    for (std::size_t i = 0; i < summary.numel(); ++i) {
+        const value::ValueArray* identifier = summary.field(i, "identifier");
+        const value::ValueArray* timeline = summary.field(i, "timeline");
+        if (identifier == nullptr || timeline == nullptr) except::internalError("shell", "a log summary lacks a field");
+        IdentifierSummary& entry = entries.emplace_back();
+        entry.identifier = identifier->textUtf8();
+        entry.count = static_cast<std::size_t>(numberField(summary, i, "count"));
+        entry.disabled = static_cast<std::size_t>(numberField(summary, i, "disabled"));
+        entry.first = numberField(summary, i, "first");
+        entry.last = numberField(summary, i, "last");
+        for (std::size_t k = 0; k < timeline->numel(); ++k) entry.timeline.push_back(timeline->realAt(k));
     }
-    return warnings;
+    orderSummary(entries);
+    return entries;
 }
 
-std::vector<IdentifierSummary> summariseWarnings(const std::vector<LoggedWarning>& warnings) {
-    std::map<std::string, IdentifierSummary> byIdentifier;
-    for (const LoggedWarning& warning : warnings) {
-        auto [entry, added] = byIdentifier.try_emplace(warning.identifier);
-        IdentifierSummary& summary = entry->second;
-        if (added) summary = {warning.identifier, 0, 0, warning.time, warning.time};
-        ++summary.count;
-        if (warning.wasDisabled) ++summary.disabled;
-        summary.first = std::min(summary.first, warning.time);
-        summary.last = std::max(summary.last, warning.time);
-    }
-    std::vector<IdentifierSummary> summary;
-    summary.reserve(byIdentifier.size());
-    for (auto& [identifier, entry] : byIdentifier) summary.push_back(std::move(entry));
-    // the map gave identifier order; a stable sort by count keeps it among equal counts
-    std::stable_sort(summary.begin(), summary.end(),
-                     [](const IdentifierSummary& a, const IdentifierSummary& b) { return a.count > b.count; });
-    return summary;
+void orderSummary(std::vector<IdentifierSummary>& summary) {
+    std::sort(summary.begin(), summary.end(), [](const IdentifierSummary& a, const IdentifierSummary& b) {
+        return a.count != b.count ? a.count > b.count : a.identifier < b.identifier;
+    });
 }
 
 void printLogSummary(const std::string& file, SummaryFormat format) {
-    console::consoleWrite(console::ConsoleStream::Output,
-                          renderSummary(summariseWarnings(readLoggedWarnings(file)), format));
+    console::consoleWrite(console::ConsoleStream::Output, renderSummary(readLogSummary(file), format));
 }
 
 }  // namespace orrery::shell::startup

@@ -1,5 +1,5 @@
-// orrery --log-summary: a warning log read back through the module and counted
-// per identifier.
+// orrery --log-summary: a warning log counted per identifier by the module,
+// without loading its warnings.
 #pragma once
 
 #include <cstddef>
@@ -8,13 +8,6 @@
 
 namespace orrery::shell::startup {
 
-/// What the summary needs of one logged warning.
-struct LoggedWarning {
-    std::string identifier;
-    bool wasDisabled = false;
-    double time = 0;  ///< serial day number, local standard time
-};
-
 /// The warnings of one identifier.
 struct IdentifierSummary {
     std::string identifier;
@@ -22,22 +15,31 @@ struct IdentifierSummary {
     std::size_t disabled = 0;  ///< how many were logged while the identifier was off
     double first = 0;          ///< earliest time
     double last = 0;           ///< latest time
+    /// How many fell into each equal part of the log's time span.
+    std::vector<double> timeline;
 };
 
 /// How the summary is printed.
 enum class SummaryFormat { Text, Csv, Json };
 
-/// Reads the log with the module's orrery.internal.diagnostic.log.load. A
-/// failure of the reader raises "ORRERY:shell:logSummaryFailed" naming the
-/// file, the reader's identifier and its message.
-std::vector<LoggedWarning> readLoggedWarnings(const std::string& file);
+/// Counts the log with the module's orrery.internal.diagnostic.log.summary,
+/// one entry per identifier (orderSummary's order). A failure of the reader
+/// raises "ORRERY:shell:logSummaryFailed" naming the file, the reader's
+/// identifier and its message.
+std::vector<IdentifierSummary> readLogSummary(const std::string& file);
 
-/// One entry per identifier, by count (most first), then by identifier.
-std::vector<IdentifierSummary> summariseWarnings(const std::vector<LoggedWarning>& warnings);
+/// Puts the entries in order: by count (most first), then by identifier.
+void orderSummary(std::vector<IdentifierSummary>& summary);
 
-/// The summary as text: an aligned table under a header line (Text), a header
-/// line and one row per identifier with RFC 4180 quoting (Csv), or an array of
-/// objects (Json). Times are ISO 8601 in local standard time with its offset.
+/// The timeline as block characters, one per part, scaled to its largest part
+/// (a blank for a part with none), e.g. "▁▂▅█▃".
+std::string timelineBlocks(const std::vector<double>& timeline);
+
+/// The summary as text: an aligned table under a header line, with each
+/// identifier's timeline (Text), a header line and one row per identifier with
+/// RFC 4180 quoting (Csv), or an array of objects with the timeline's counts
+/// (Json). Times are ISO 8601 in local standard time with its offset. Every
+/// line ends with a line feed.
 std::string renderSummary(const std::vector<IdentifierSummary>& summary, SummaryFormat format);
 
 /// Reads, summarises and prints the log on standard output.

@@ -1,4 +1,4 @@
-// The log summary as an aligned table, as CSV and as JSON.
+// The log summary as an aligned table with timelines, as CSV and as JSON.
 #include "shell/startup/log_summary.hpp"
 
 #include <orrery/except/internal_error.hpp>
@@ -66,7 +66,9 @@ std::string textTable(std::vector<Row> rows) {
         }
         return text + "\n";
     };
-    std::string table = line(Row(std::begin(kColumns), std::end(kColumns)));
+    Row header(std::begin(kColumns), std::end(kColumns));
+    if (!rows.empty() && rows.front().size() > header.size()) header.emplace_back("timeline");
+    std::string table = line(header);
     for (const Row& row : rows) table += line(row);
     return table;
 }
@@ -115,7 +117,17 @@ std::string jsonString(const std::string& text) {
     return quoted + "\"";
 }
 
-std::string jsonArray(const std::vector<Row>& rows) {
+std::string jsonNumbers(const std::vector<double>& numbers) {
+    std::string json = "[";
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        char number[32];
+        std::snprintf(number, sizeof number, "%.17g", numbers[i]);
+        json += (i == 0 ? "" : ", ") + std::string(number);
+    }
+    return json + "]";
+}
+
+std::string jsonArray(const std::vector<Row>& rows, const std::vector<IdentifierSummary>& summary) {
     if (rows.empty()) return "[]\n";
     std::string json = "[\n";
     for (std::size_t r = 0; r < rows.size(); ++r) {
@@ -125,6 +137,7 @@ std::string jsonArray(const std::vector<Row>& rows) {
             json += (c == 0 ? "" : ", ") + jsonString(std::string(kColumns[c])) + ": " +
                     (number ? rows[r][c] : jsonString(rows[r][c]));
         }
+        json += ", \"timeline\": " + jsonNumbers(summary[r].timeline);
         json += r + 1 == rows.size() ? "}\n" : "},\n";
     }
     return json + "]\n";
@@ -132,14 +145,32 @@ std::string jsonArray(const std::vector<Row>& rows) {
 
 }  // namespace
 
+std::string timelineBlocks(const std::vector<double>& timeline) {
+    constexpr std::string_view kBlocks[] = {"\u2581", "\u2582", "\u2583", "\u2584",
+                                            "\u2585", "\u2586", "\u2587", "\u2588"};
+    const double most = timeline.empty() ? 0 : *std::max_element(timeline.begin(), timeline.end());
+    std::string blocks;
+    for (const double part : timeline) {
+        if (part <= 0 || most <= 0) {
+            blocks += ' ';
+            continue;
+        }
+        const auto level = static_cast<std::size_t>(std::ceil(part / most * std::size(kBlocks))) - 1;
+        blocks += kBlocks[std::min(level, std::size(kBlocks) - 1)];
+    }
+    return blocks;
+}
+
 std::string renderSummary(const std::vector<IdentifierSummary>& summary, SummaryFormat format) {
     std::vector<Row> rows;
     rows.reserve(summary.size());
     for (const IdentifierSummary& entry : summary) rows.push_back(rowOf(entry));
     switch (format) {
-        case SummaryFormat::Text: return textTable(std::move(rows));
+        case SummaryFormat::Text:
+            for (std::size_t r = 0; r < rows.size(); ++r) rows[r].push_back(timelineBlocks(summary[r].timeline));
+            return textTable(std::move(rows));
         case SummaryFormat::Csv: return csvTable(rows);
-        case SummaryFormat::Json: return jsonArray(rows);
+        case SummaryFormat::Json: return jsonArray(rows, summary);
     }
     except::internalError("shell", "unknown log summary format");
 }

@@ -86,7 +86,7 @@ TEST(LogFunctions, FailuresPassOnTheLogsIdentifiersAndLeaveNoArray) {
     EXPECT_MSGID(callLog("close", 0, {ValueArray::chars(u"never")}), "ORRERY:warning:LogFile:FileNotOpen");
     EXPECT_NE(warning::utGetWarningLog(context), nullptr);
 
-    for (const char* function : {"open", "close", "load"}) {
+    for (const char* function : {"open", "close", "load", "summary"}) {
         SCOPED_TRACE(function);
         EXPECT_MSGID(callLog(function, 0, {ValueArray::scalar(1)}), "ORRERY:ocos:argumentType");
         EXPECT_MSGID(callLog(function, 0, {}), "ORRERY:notEnoughInputs");

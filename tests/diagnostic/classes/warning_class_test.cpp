@@ -43,7 +43,7 @@ TEST(WarningClass, IsRegisteredWithItsPropertiesMethodsAndLogFunctionsInOrder) {
                                                "double scalar", "logical scalar"}));
     EXPECT_EQ(info->getMethodNames(), (std::vector<std::string>{"isequal", "eq", "ne", "sort", "disp"}));
     EXPECT_EQ(ocos::findNamespace("orrery.internal.diagnostic.log")->getFunctionNames(),
-              (std::vector<std::string>{"open", "close", "load"}));
+              (std::vector<std::string>{"open", "close", "load", "summary"}));
     const auto& load = ocos::getFunction("orrery.internal.diagnostic.log.load")->getSignature();
     ASSERT_EQ(load.outputs().size(), 1U);
     EXPECT_EQ(load.outputs()[0].text().str(), "orrery.internal.diagnostic.Warning");
