@@ -11,9 +11,9 @@ Slices slicesAlong(const value::Dims& dims, std::size_t dim) {
     slices.length = dims[dim];
     slices.stride = 1;
     for (std::size_t d = 0; d < std::min(dim, dims.count()); ++d) slices.stride *= dims[d];
-    std::vector<std::size_t> sizes = dims.sizes();
+    std::vector<std::size_t> sizes(dims.sizes().begin(), dims.sizes().end());
     if (dim < sizes.size()) sizes[dim] = 1;
-    slices.reduced = value::Dims(std::move(sizes));
+    slices.reduced = value::Dims(sizes);
     slices.count = slices.reduced.numel();
     return slices;
 }

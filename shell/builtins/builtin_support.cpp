@@ -31,7 +31,7 @@ value::Dims arraySize(std::vector<std::size_t> sizes) {
     double total = 1;
     for (std::size_t size : sizes) total *= static_cast<double>(size);
     values::checkElementCount(total);
-    return value::Dims(std::move(sizes));
+    return value::Dims(sizes);
 }
 
 bool isSizeValue(const ValueArray& v) {

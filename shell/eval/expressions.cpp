@@ -41,6 +41,9 @@ ValueArray Interpreter::eval(const lang::Expr& expr) {
         case ExprKind::Matrix:
         case ExprKind::CellArray: return evalBracketed(expr);
         case ExprKind::Name:
+            // a variable's value straight from the workspace, without a list of results
+            if (const ValueArray* variable = current_->find(expr.name)) return *variable;
+            [[fallthrough]];
         case ExprKind::Postfix: {
             Values results = evalMulti(expr, 1);
             if (results.empty()) except::throwMessage(NoValue());

@@ -28,7 +28,7 @@ Broadcast::Broadcast(const value::Dims& a, const value::Dims& b) : a_(a), b_(b),
             except::throwMessage(SizeMismatch(text::asciiToUtf16(a.text()), text::asciiToUtf16(b.text())));
         }
     }
-    dims_ = value::Dims(std::move(sizes));
+    dims_ = value::Dims(sizes);
 }
 
 std::size_t Broadcast::map(std::size_t i, const value::Dims& operand) const {

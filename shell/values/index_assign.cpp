@@ -155,9 +155,30 @@ ValueArray deleteSlices(const ValueArray& a, const std::vector<IndexArg>& args) 
     return result;
 }
 
+// a(k) = b for one numeric position k and a scalar b of a's numeric class, at
+// an existing element or just past the end of a vector: written where it lies
+// (the data copied only when shared), with no position list or temporary.
+// False, with nothing changed, for every other assignment.
+bool assignOneElement(ValueArray& a, const std::vector<IndexArg>& args, const ValueArray& b) {
+    if (args.size() != 1 || args[0].colon || !b.isScalar() || b.classId() != a.classId() || !a.isNumeric())
+        return false;
+    const ValueArray& index = args[0].value;
+    if (!index.isScalar() || !index.isNumeric()) return false;
+    const auto position = wholeCount(index.realAt(0));
+    if (!position || *position < 1 || *position > a.numel() + 1) return false;
+    if (*position > a.numel()) {
+        const Dims grown = grownLinear(a.dims(), *position);
+        checkElementCount(static_cast<double>(grown.numel()));
+        a.resize(grown);
+    }
+    copyElement(a, *position - 1, b, 0);
+    return true;
+}
+
 }  // namespace
 
 void assignIndexed(ValueArray& a, const std::vector<IndexArg>& args, const ValueArray& b) {
+    if (assignOneElement(a, args, b)) return;
     const bool deletion = b.is(ClassId::Double) && b.dims() == Dims{0, 0};
     if (deletion) {
         a = args.size() == 1 ? deleteLinear(a, args[0]) : deleteSlices(a, args);

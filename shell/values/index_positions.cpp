@@ -81,7 +81,7 @@ value::Dims listSizes(const std::vector<std::vector<std::size_t>>& lists) {
     std::vector<std::size_t> sizes;
     sizes.reserve(lists.size());
     for (const auto& list : lists) sizes.push_back(list.size());
-    return value::Dims(std::move(sizes));
+    return value::Dims(sizes);
 }
 
 std::size_t neededExtent(const std::vector<std::size_t>& positions) {

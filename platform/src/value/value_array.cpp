@@ -77,8 +77,7 @@ std::string_view className(ClassId id) {
 
 // ---- special members -----------------------------------------------------------
 
-ValueArray::ValueArray()
-    : ValueArray(ClassId::Double, Dims{0, 0}, std::make_shared<Data>(Data{std::vector<double>()})) {}
+ValueArray::ValueArray() : ValueArray(ClassId::Double, Dims{0, 0}) {}
 ValueArray::ValueArray(ClassId id, Dims dims, std::shared_ptr<Data> data)
     : classId_(id), dims_(std::move(dims)), data_(std::move(data)) {}
 ValueArray::~ValueArray() = default;
@@ -87,8 +86,73 @@ ValueArray::ValueArray(ValueArray&&) noexcept = default;
 ValueArray& ValueArray::operator=(const ValueArray&) = default;
 ValueArray& ValueArray::operator=(ValueArray&&) noexcept = default;
 
+// ---- the element held inside ---------------------------------------------------
+
+template <class T>
+T* ValueArray::scalarOf() noexcept {
+    if constexpr (std::is_same_v<T, double>) return &scalar_.f64;
+    if constexpr (std::is_same_v<T, float>) return &scalar_.f32;
+    if constexpr (std::is_same_v<T, std::int8_t>) return &scalar_.i8;
+    if constexpr (std::is_same_v<T, std::uint8_t>) return &scalar_.u8;
+    if constexpr (std::is_same_v<T, std::int16_t>) return &scalar_.i16;
+    if constexpr (std::is_same_v<T, std::uint16_t>) return &scalar_.u16;
+    if constexpr (std::is_same_v<T, std::int32_t>) return &scalar_.i32;
+    if constexpr (std::is_same_v<T, std::uint32_t>) return &scalar_.u32;
+    if constexpr (std::is_same_v<T, std::int64_t>) return &scalar_.i64;
+    if constexpr (std::is_same_v<T, std::uint64_t>) return &scalar_.u64;
+}
+
+double ValueArray::scalarReal() const noexcept {
+    switch (classId_) {
+        case ClassId::Double: return scalar_.f64;
+        case ClassId::Single: return scalar_.f32;
+        case ClassId::Int8: return scalar_.i8;
+        case ClassId::UInt8:
+        case ClassId::Logical: return scalar_.u8;
+        case ClassId::Int16: return scalar_.i16;
+        case ClassId::UInt16: return scalar_.u16;
+        case ClassId::Int32: return scalar_.i32;
+        case ClassId::UInt32: return scalar_.u32;
+        case ClassId::Int64: return static_cast<double>(scalar_.i64);
+        case ClassId::UInt64: return static_cast<double>(scalar_.u64);
+        default: return 0.0;
+    }
+}
+
+void ValueArray::setScalarReal(double value) noexcept {
+    switch (classId_) {
+        case ClassId::Double: scalar_.f64 = value; return;
+        case ClassId::Single: scalar_.f32 = convertNumber<float>(value); return;
+        case ClassId::Int8: scalar_.i8 = convertNumber<std::int8_t>(value); return;
+        case ClassId::UInt8: scalar_.u8 = convertNumber<std::uint8_t>(value); return;
+        case ClassId::Logical: scalar_.u8 = value != 0 ? 1 : 0; return;
+        case ClassId::Int16: scalar_.i16 = convertNumber<std::int16_t>(value); return;
+        case ClassId::UInt16: scalar_.u16 = convertNumber<std::uint16_t>(value); return;
+        case ClassId::Int32: scalar_.i32 = convertNumber<std::int32_t>(value); return;
+        case ClassId::UInt32: scalar_.u32 = convertNumber<std::uint32_t>(value); return;
+        case ClassId::Int64: scalar_.i64 = convertNumber<std::int64_t>(value); return;
+        case ClassId::UInt64: scalar_.u64 = convertNumber<std::uint64_t>(value); return;
+        default: return;
+    }
+}
+
 ValueArray::Data& ValueArray::mutate() {
-    if (data_.use_count() > 1) data_ = std::make_shared<Data>(*data_);
+    if (!data_) {
+        data_ = std::make_shared<Data>(Data{makeStore(classId_, numel())});
+        if (numel() == 1)
+            std::visit(
+                [this](auto& store) {
+                    using S = std::decay_t<decltype(store)>;
+                    if constexpr (isNumericStore<S>) {
+                        store[0] = *scalarOf<typename S::value_type>();
+                    } else if constexpr (std::is_same_v<S, LogicalStore>) {
+                        store.values[0] = scalar_.u8;
+                    }
+                },
+                data_->store);
+    } else if (data_.use_count() > 1) {
+        data_ = std::make_shared<Data>(*data_);
+    }
     return *data_;
 }
 
@@ -104,20 +168,33 @@ void ValueArray::requireClass(ClassId id) const {
 
 ValueArray ValueArray::zeros(ClassId id, Dims dims) {
     const std::size_t n = dims.numel();
+    if (fitsInside(id, n)) return ValueArray(id, std::move(dims));
     return ValueArray(id, std::move(dims), std::make_shared<Data>(Data{makeStore(id, n)}));
 }
 
-ValueArray ValueArray::scalar(double value) { return doubles(Dims{1, 1}, {value}); }
+ValueArray ValueArray::scalar(double value) {
+    ValueArray result(ClassId::Double, Dims{1, 1});
+    result.scalar_.f64 = value;
+    return result;
+}
 
 ValueArray ValueArray::doubles(Dims dims, std::vector<double> values) {
     if (values.size() != dims.numel()) except::throwMessage(except::host::BadDimensions());
+    if (values.size() == 1) return scalar(values[0]);
+    if (values.empty()) return ValueArray(ClassId::Double, std::move(dims));
     return ValueArray(ClassId::Double, std::move(dims), std::make_shared<Data>(Data{std::move(values)}));
 }
 
-ValueArray ValueArray::logicalScalar(bool value) { return logicals(Dims{1, 1}, {value}); }
+ValueArray ValueArray::logicalScalar(bool value) {
+    ValueArray result(ClassId::Logical, Dims{1, 1});
+    result.scalar_.u8 = value ? 1 : 0;
+    return result;
+}
 
 ValueArray ValueArray::logicals(Dims dims, std::vector<bool> values) {
     if (values.size() != dims.numel()) except::throwMessage(except::host::BadDimensions());
+    if (values.size() == 1) return logicalScalar(values[0]);
+    if (values.empty()) return ValueArray(ClassId::Logical, std::move(dims));
     LogicalStore store{std::vector<std::uint8_t>(values.begin(), values.end())};
     return ValueArray(ClassId::Logical, std::move(dims), std::make_shared<Data>(Data{std::move(store)}));
 }
@@ -138,6 +215,7 @@ ValueArray ValueArray::charsFromUtf8(std::string_view utf8) { return chars(text:
 
 ValueArray ValueArray::charArray(Dims dims, std::u16string units) {
     if (units.size() != dims.numel()) except::throwMessage(except::host::BadDimensions());
+    if (units.empty()) return ValueArray(ClassId::Char, std::move(dims));
     return ValueArray(ClassId::Char, std::move(dims), std::make_shared<Data>(Data{std::move(units)}));
 }
 
@@ -213,6 +291,7 @@ void ValueArray::resize(Dims dims) {
 
 double ValueArray::realAt(std::size_t i) const {
     checkIndex(i);
+    if (!data_) return scalarReal();
     if (classId_ == ClassId::Logical) return std::get<LogicalStore>(data_->store).values[i];
     if (classId_ == ClassId::Char) return std::get<std::u16string>(data_->store)[i];
     if (!isNumeric()) wrongClass(ClassId::Double, classId_);
@@ -229,6 +308,7 @@ double ValueArray::realAt(std::size_t i) const {
 
 void ValueArray::setRealAt(std::size_t i, double value) {
     checkIndex(i);
+    if (!data_) return setScalarReal(value);
     if (classId_ == ClassId::Logical) return setLogicalAt(i, value != 0);
     if (classId_ == ClassId::Char) {
         std::get<std::u16string>(mutate().store)[i] = convertNumber<std::uint16_t>(value);
@@ -246,12 +326,14 @@ void ValueArray::setRealAt(std::size_t i, double value) {
 template <class T>
 std::span<const T> ValueArray::data() const {
     requireClass(classIdOf<T>());
+    if (!data_) return {const_cast<ValueArray*>(this)->scalarOf<T>(), numel()};
     return std::get<std::vector<T>>(data_->store);
 }
 
 template <class T>
 std::span<T> ValueArray::mutableData() {
     requireClass(classIdOf<T>());
+    if (!data_) return {scalarOf<T>(), numel()};
     return std::get<std::vector<T>>(mutate().store);
 }
 
@@ -273,12 +355,17 @@ ORRERY_INSTANTIATE_DATA(std::uint64_t)
 bool ValueArray::logicalAt(std::size_t i) const {
     requireClass(ClassId::Logical);
     checkIndex(i);
+    if (!data_) return scalar_.u8 != 0;
     return std::get<LogicalStore>(data_->store).values[i] != 0;
 }
 
 void ValueArray::setLogicalAt(std::size_t i, bool value) {
     requireClass(ClassId::Logical);
     checkIndex(i);
+    if (!data_) {
+        scalar_.u8 = value ? 1 : 0;
+        return;
+    }
     std::get<LogicalStore>(mutate().store).values[i] = value ? 1 : 0;
 }
 
@@ -295,6 +382,7 @@ ValueArray ValueArray::toLogicalScalar() const {
 
 std::u16string_view ValueArray::chars() const {
     requireClass(ClassId::Char);
+    if (!data_) return {};
     return std::get<std::u16string>(data_->store);
 }
 
@@ -324,7 +412,7 @@ std::u16string ValueArray::text() const { return std::u16string(textView()); }
 
 std::u16string_view ValueArray::textView() const {
     if (!isTextScalarTolerant()) wrongClass(ClassId::Char, classId_);
-    if (classId_ == ClassId::Char) return std::get<std::u16string>(data_->store);
+    if (classId_ == ClassId::Char) return data_ ? std::u16string_view(std::get<std::u16string>(data_->store)) : u"";
     return *std::get<StringStore>(data_->store).values[0];
 }
 

@@ -40,6 +40,46 @@ TEST(ValueArray, CopiesOfArraysAndCellsShareUntilWritten) {
     EXPECT_TRUE(copy.cellAt(0).isEmpty());
 }
 
+TEST(Dims, SizesOfManyDimensionsLeaveTheInlineRoom) {
+    const std::vector<std::size_t> sizes{2, 1, 3, 1, 2, 1, 1};
+    const Dims dims(sizes);
+    EXPECT_EQ(dims.text(), "2x1x3x1x2");
+    EXPECT_EQ(dims.numel(), 12u);
+    Dims copy = dims;
+    copy = Dims{4, 5};
+    EXPECT_EQ(dims.count(), 5u);
+    EXPECT_EQ(copy, (Dims{4, 5, 1}));
+}
+
+TEST(ValueArray, ScalarsAndEmptiesHaveNoDataBlockAndStayValues) {
+    for (const ClassId id : {ClassId::Double, ClassId::Single, ClassId::Int8, ClassId::UInt16, ClassId::Int64,
+                             ClassId::UInt64, ClassId::Logical}) {
+        SCOPED_TRACE(std::string(className(id)));
+        auto v = ValueArray::numericScalar(id, 1);
+        EXPECT_EQ(v.dataIdentity(), nullptr);
+        auto copy = v;
+        copy.setRealAt(0, 0);
+        EXPECT_EQ(v.realAt(0), 1) << "a copy changes alone";
+        v.resize(Dims{1, 3});  // the element moves into a data block
+        EXPECT_NE(v.dataIdentity(), nullptr);
+        EXPECT_EQ(v.realAt(0), 1);
+        EXPECT_EQ(v.realAt(2), 0);
+        EXPECT_EQ(ValueArray::zeros(id, Dims{0, 3}).dataIdentity(), nullptr);
+    }
+    auto x = ValueArray::scalar(2.5);
+    x.mutableData<double>()[0] = 7;
+    EXPECT_EQ(x.data<double>().size(), 1u);
+    EXPECT_EQ(x.realAt(0), 7);
+    EXPECT_MSGID(x.data<float>(), "ORRERY:value:wrongClass");
+    EXPECT_MSGID(x.realAt(1), "ORRERY:value:indexOutOfRange");
+    EXPECT_TRUE(ValueArray::logicals(Dims{1, 1}, {true}).logicalAt(0));
+    EXPECT_EQ(ValueArray::doubles(Dims{1, 0}, {}).dims(), (Dims{1, 0}));
+    const auto empty = ValueArray::chars(u"");
+    EXPECT_TRUE(empty.isTextScalarTolerant());
+    EXPECT_EQ(empty.textView(), u"");
+    EXPECT_EQ(ValueArray().dataIdentity(), nullptr);
+}
+
 TEST(ValueArray, RejectsOutOfRangeIndexAndWrongClass) {
     auto v = ValueArray::doubles(Dims{2, 2}, {1, 2, 3, 4});
     EXPECT_MSGID(v.realAt(4), "ORRERY:value:indexOutOfRange");

@@ -24,6 +24,9 @@ namespace orrery::value {
 /// change through a non-const accessor makes the copy's data its own
 /// (copy-on-write). Elements are indexed linearly, column-major, from 0.
 /// Wrong-class access and out-of-range indexing raise catalogued errors.
+/// Numeric and logical scalars and empty numeric, logical and char arrays hold
+/// their element inside the value, with no data block: making, copying and
+/// dropping them never allocates.
 class ORRERY_API ValueArray {
 public:
     /// A 0-by-0 double array.
@@ -140,20 +143,50 @@ public:
     // ---- sharing --------------------------------------------------------------
     /// A copy sharing the data (the language's assignment).
     ValueArray sharedCopy() const { return *this; }
-    /// The data block's address: equal for two arrays while they share one block.
+    /// The data block's address: equal for two arrays while they share one block;
+    /// null for a value held inside the array (a scalar or an empty array).
     const void* dataIdentity() const noexcept { return data_.get(); }
 
     struct Data;
 
 private:
+    /// The element of a scalar held inside the value, one member per class.
+    union Scalar {
+        double f64;
+        float f32;
+        std::int8_t i8;
+        std::uint8_t u8;  // also logical
+        std::int16_t i16;
+        std::uint16_t u16;
+        std::int32_t i32;
+        std::uint32_t u32;
+        std::int64_t i64;
+        std::uint64_t u64;
+    };
+
     ValueArray(ClassId id, Dims dims, std::shared_ptr<Data> data);
+    /// A value without a data block: numeric or logical with at most one
+    /// element (zero), or an empty char array.
+    ValueArray(ClassId id, Dims dims) noexcept : classId_(id), dims_(std::move(dims)) {}
+    /// True for the classes and sizes that are held inside the value.
+    static bool fitsInside(ClassId id, std::size_t numel) noexcept {
+        return numel == 0 ? isNumericClass(id) || id == ClassId::Logical || id == ClassId::Char
+                          : numel == 1 && (isNumericClass(id) || id == ClassId::Logical);
+    }
+    template <class T>
+    T* scalarOf() noexcept;
+    double scalarReal() const noexcept;
+    void setScalarReal(double value) noexcept;
     void checkIndex(std::size_t i) const;
     void requireClass(ClassId id) const;
+    /// The data block, made from the element held inside when there is none,
+    /// and copied first when shared.
     Data& mutate();
 
     ClassId classId_;
     Dims dims_;
-    std::shared_ptr<Data> data_;
+    Scalar scalar_{.u64 = 0};
+    std::shared_ptr<Data> data_;  // null while the element is held inside
 };
 
 /// How deep operations that walk into cells, structs and objects (equality, for
