@@ -27,7 +27,7 @@ std::size_t sizeEntry(double x, std::string_view function) {
 }
 
 // The sizes as an array size, refused when the array would be too large.
-value::Dims arraySize(std::vector<std::size_t> sizes) {
+value::Dims arraySize(const std::vector<std::size_t>& sizes) {
     double total = 1;
     for (std::size_t size : sizes) total *= static_cast<double>(size);
     values::checkElementCount(total);
@@ -71,14 +71,14 @@ value::Dims sizeArguments(Arguments arguments, std::string_view function) {
         if (a.dims().rows() != 1) except::throwMessage(messages::BadSize(wide(function)));
         std::vector<std::size_t> sizes;
         for (std::size_t i = 0; i < a.numel(); ++i) sizes.push_back(sizeEntry(a.realAt(i), function));
-        return arraySize(std::move(sizes));
+        return arraySize(sizes);
     }
     std::vector<std::size_t> sizes;
     for (const ValueArray* a : arguments) {
         if (!a->isScalar()) except::throwMessage(messages::BadSize(wide(function)));
         sizes.push_back(sizeEntry(a->realAt(0), function));
     }
-    return arraySize(std::move(sizes));
+    return arraySize(sizes);
 }
 
 std::optional<std::string> takeTrailingText(Arguments& arguments) {
