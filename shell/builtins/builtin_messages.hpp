@@ -5,34 +5,34 @@
 
 namespace orrery::shell::builtins::messages {
 
-ORRERY_MESSAGE_KEY(NotText, "ORRERY:host:notText");
-ORRERY_MESSAGE_KEY(NotNumeric, "ORRERY:host:notNumeric");
-ORRERY_MESSAGE_KEY(NotNumber, "ORRERY:host:notNumber");
-ORRERY_MESSAGE_KEY(BadDimension, "ORRERY:host:badDimension");
-ORRERY_MESSAGE_KEY(BadSize, "ORRERY:host:badSize");
-ORRERY_MESSAGE_KEY(UnknownClass, "ORRERY:host:unknownClass");
-ORRERY_MESSAGE_KEY(CannotConvert, "ORRERY:host:cannotConvert");
-ORRERY_MESSAGE_KEY(SizeMismatch, "ORRERY:host:sizeMismatch");
-ORRERY_MESSAGE_KEY(BadOption, "ORRERY:host:badOption");
-ORRERY_MESSAGE_KEY(BadFileIdentifier, "ORRERY:host:badFileIdentifier");
-ORRERY_MESSAGE_KEY(StructOddArguments, "ORRERY:host:struct:oddArguments");
-ORRERY_MESSAGE_KEY(StructBadFieldName, "ORRERY:host:struct:badFieldName");
-ORRERY_MESSAGE_KEY(StructCellSizeMismatch, "ORRERY:host:struct:cellSizeMismatch");
-ORRERY_MESSAGE_KEY(StructNotStruct, "ORRERY:host:struct:notStruct");
-ORRERY_MESSAGE_KEY(StructDuplicateField, "ORRERY:host:struct:duplicateField");
-ORRERY_MESSAGE_KEY(NotObject, "ORRERY:host:notObject");
-ORRERY_MESSAGE_KEY(NotStructOrObject, "ORRERY:host:notStructOrObject");
-ORRERY_MESSAGE_KEY(UnknownMessage, "ORRERY:host:message:unknownIdentifier");
-ORRERY_MESSAGE_KEY(BadMessageArgument, "ORRERY:host:message:badArgument");
-ORRERY_MESSAGE_KEY(NotMessage, "ORRERY:host:notMessage");
-ORRERY_MESSAGE_KEY(TocWithoutTic, "ORRERY:host:tocWithoutTic");
-ORRERY_MESSAGE_KEY(BadDateVector, "ORRERY:host:badDateVector");
-ORRERY_MESSAGE_KEY(CannotRead, "ORRERY:host:file:cannotRead");
-ORRERY_MESSAGE_KEY(FileNotFound, "ORRERY:host:file:notFound");
-ORRERY_MESSAGE_KEY(CannotDelete, "ORRERY:host:file:cannotDelete");
-ORRERY_MESSAGE_KEY(DeleteFolder, "ORRERY:host:file:isFolder");
-ORRERY_MESSAGE_KEY(NoSuchFolder, "ORRERY:host:file:noSuchFolder");
-ORRERY_MESSAGE_KEY(CannotCreateFolder, "ORRERY:host:file:cannotCreateFolder");
-ORRERY_MESSAGE_KEY(FolderExists, "ORRERY:host:file:folderExists");
+ORRERY_MESSAGE_KEY(NotText, "ORRERY:host:notText", 2);
+ORRERY_MESSAGE_KEY(NotNumeric, "ORRERY:host:notNumeric", 2);
+ORRERY_MESSAGE_KEY(NotNumber, "ORRERY:host:notNumber", 2);
+ORRERY_MESSAGE_KEY(BadDimension, "ORRERY:host:badDimension", 1);
+ORRERY_MESSAGE_KEY(BadSize, "ORRERY:host:badSize", 1);
+ORRERY_MESSAGE_KEY(UnknownClass, "ORRERY:host:unknownClass", 2);
+ORRERY_MESSAGE_KEY(CannotConvert, "ORRERY:host:cannotConvert", 2);
+ORRERY_MESSAGE_KEY(SizeMismatch, "ORRERY:host:sizeMismatch", 2);
+ORRERY_MESSAGE_KEY(BadOption, "ORRERY:host:badOption", 2);
+ORRERY_MESSAGE_KEY(BadFileIdentifier, "ORRERY:host:badFileIdentifier", 0);
+ORRERY_MESSAGE_KEY(StructOddArguments, "ORRERY:host:struct:oddArguments", 0);
+ORRERY_MESSAGE_KEY(StructBadFieldName, "ORRERY:host:struct:badFieldName", 1);
+ORRERY_MESSAGE_KEY(StructCellSizeMismatch, "ORRERY:host:struct:cellSizeMismatch", 0);
+ORRERY_MESSAGE_KEY(StructNotStruct, "ORRERY:host:struct:notStruct", 0);
+ORRERY_MESSAGE_KEY(StructDuplicateField, "ORRERY:host:struct:duplicateField", 1);
+ORRERY_MESSAGE_KEY(NotObject, "ORRERY:host:notObject", 2);
+ORRERY_MESSAGE_KEY(NotStructOrObject, "ORRERY:host:notStructOrObject", 2);
+ORRERY_MESSAGE_KEY(UnknownMessage, "ORRERY:host:message:unknownIdentifier", 1);
+ORRERY_MESSAGE_KEY(BadMessageArgument, "ORRERY:host:message:badArgument", 0);
+ORRERY_MESSAGE_KEY(NotMessage, "ORRERY:host:notMessage", 0);
+ORRERY_MESSAGE_KEY(TocWithoutTic, "ORRERY:host:tocWithoutTic", 0);
+ORRERY_MESSAGE_KEY(BadDateVector, "ORRERY:host:badDateVector", 0);
+ORRERY_MESSAGE_KEY(CannotRead, "ORRERY:host:file:cannotRead", 1);
+ORRERY_MESSAGE_KEY(FileNotFound, "ORRERY:host:file:notFound", 1);
+ORRERY_MESSAGE_KEY(CannotDelete, "ORRERY:host:file:cannotDelete", 2);
+ORRERY_MESSAGE_KEY(DeleteFolder, "ORRERY:host:file:isFolder", 1);
+ORRERY_MESSAGE_KEY(NoSuchFolder, "ORRERY:host:file:noSuchFolder", 1);
+ORRERY_MESSAGE_KEY(CannotCreateFolder, "ORRERY:host:file:cannotCreateFolder", 2);
+ORRERY_MESSAGE_KEY(FolderExists, "ORRERY:host:file:folderExists", 1);
 
 }  // namespace orrery::shell::builtins::messages

@@ -6,11 +6,21 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
 
+#include <string>
+#include <type_traits>
+
 using namespace orrery;
 using except::QException;
 
 namespace {
-ORRERY_MESSAGE_KEY(StackLine, "ORRERY:error:badStackLine");
+ORRERY_MESSAGE_KEY(StackLine, "ORRERY:error:badStackLine", 0);
+ORRERY_MESSAGE_KEY(WarningState, "ORRERY:warning:stateOfWarningIs", 2);
+
+// A key is made with exactly the arguments its declaration counts.
+static_assert(std::is_constructible_v<StackLine> && !std::is_constructible_v<StackLine, std::u16string>);
+static_assert(std::is_constructible_v<WarningState, std::u16string, const char16_t*>);
+static_assert(!std::is_constructible_v<WarningState, std::u16string>);
+static_assert(!std::is_constructible_v<WarningState, std::u16string, std::u16string, double>);
 }  // namespace
 
 TEST(ThrowMessage, RaisesTheKeysOwnTypeAfterReportingToTheLegacyLayer) {
@@ -48,6 +58,7 @@ TEST(QExceptionEnvelope, SuppliesTheCurrentStackWhenNoneIsGiven) {
     interp::FrameGuard inner({u"/s/inner.orr", u"inner", 9});
     try {
         except::QExceptionEnvelope("ORRERY:a:b", u"m\u00E9ssage", std::nullopt, 1).DoThrow();
+        FAIL() << "DoThrow returned";
     } catch (const QException& error) {
         EXPECT_STREQ(error.what(), "m\xC3\xA9ssage");
         ASSERT_EQ(error.stack().dims(), (value::Dims{2, 1}));
