@@ -87,7 +87,7 @@ TEST(Catalogue, HasATextForEveryIdentifierInTheSources) {
 // A key's declared argument count is what the compiler holds its makers to, so it
 // must be the count its catalogue text takes.
 TEST(Catalogue, EveryDeclaredKeyTakesTheArgumentsOfItsText) {
-    const std::regex declaration(R"(ORRERY_MESSAGE_KEY\((\w+),\s*"([^"]+)",\s*(\d+)\))");
+    const std::regex declaration(R"re(ORRERY_MESSAGE_KEY\((\w+),\s*"([^"]+)",\s*(\d+)\))re");
     std::size_t keys = 0;
     forEachSource([&](const std::filesystem::path& path, const std::string& source) {
         for (std::sregex_iterator it(source.begin(), source.end(), declaration), end; it != end; ++it, ++keys) {
