@@ -2,10 +2,12 @@
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/except/argument_errors.hpp>
+#include <orrery/except/host_messages.hpp>
 #include <orrery/except/qexception_envelope.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
 
+#include <cstddef>
 #include <string>
 #include <type_traits>
 
@@ -14,13 +16,13 @@ using except::QException;
 
 namespace {
 ORRERY_MESSAGE_KEY(StackLine, "ORRERY:error:badStackLine", 0);
-ORRERY_MESSAGE_KEY(WarningState, "ORRERY:warning:stateOfWarningIs", 2);
 
 // A key is made with exactly the arguments its declaration counts.
+using except::host::NestedTooDeep;  // one argument: the depth limit
 static_assert(std::is_constructible_v<StackLine> && !std::is_constructible_v<StackLine, std::u16string>);
-static_assert(std::is_constructible_v<WarningState, std::u16string, const char16_t*>);
-static_assert(!std::is_constructible_v<WarningState, std::u16string>);
-static_assert(!std::is_constructible_v<WarningState, std::u16string, std::u16string, double>);
+static_assert(std::is_constructible_v<NestedTooDeep, std::size_t>);
+static_assert(!std::is_constructible_v<NestedTooDeep>);
+static_assert(!std::is_constructible_v<NestedTooDeep, std::size_t, std::u16string>);
 }  // namespace
 
 TEST(ThrowMessage, RaisesTheKeysOwnTypeAfterReportingToTheLegacyLayer) {
