@@ -11,8 +11,8 @@ packages=(
   g++ clang libclang-rt-14-dev clang-format clang-tidy cmake ninja-build pkg-config
   libboost-dev libboost-thread-dev libboost-system-dev
   libexpat1-dev libicu-dev icu-devtools
-  libgtest-dev libgmock-dev libbenchmark-dev libspdlog-dev
-  libedit-dev libxml2-utils tzdata tmux locales
+  libfmt-dev libgtest-dev libgmock-dev libbenchmark-dev libspdlog-dev
+  libedit-dev libxml2-utils tzdata tmux locales ccache
 )
 
 mkdir -p build

@@ -6,8 +6,8 @@
 namespace orrery::diagnostic::ids {
 
 /// Argument: the class name of the array.
-ORRERY_MESSAGE_KEY(InvalidWarningElement, "ORRERY:warning:Invalid");
-ORRERY_MESSAGE_KEY(CompareDimagree, "ORRERY:warning:compare:dimagree");
-ORRERY_MESSAGE_KEY(SortNDSort, "ORRERY:warning:sort:NDSort");
+ORRERY_MESSAGE_KEY(InvalidWarningElement, "ORRERY:warning:Invalid", 1);
+ORRERY_MESSAGE_KEY(CompareDimagree, "ORRERY:warning:compare:dimagree", 0);
+ORRERY_MESSAGE_KEY(SortNDSort, "ORRERY:warning:sort:NDSort", 0);
 
 }  // namespace orrery::diagnostic::ids

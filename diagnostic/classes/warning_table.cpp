@@ -3,7 +3,7 @@
 
 #include "diagnostic/classes/warning_instance.hpp"
 
-#include <orrery/interp/dates.hpp>
+#include <orrery/interp/date_text.hpp>
 #include <orrery/text/text.hpp>
 
 #include <algorithm>
@@ -32,15 +32,12 @@ struct Row {
 
 // "yyyy-mm-dd HH:MM:SS"; a time outside the calendar shows as its number.
 std::string timeText(double serial) {
-    char buffer[64];
     if (!std::isfinite(serial) || std::abs(serial) > 1e7) {
+        char buffer[64];
         std::snprintf(buffer, sizeof buffer, "%g", serial);
         return buffer;
     }
-    const interp::DateVector date = interp::calcDatevec(serial);
-    std::snprintf(buffer, sizeof buffer, "%04.0f-%02.0f-%02.0f %02.0f:%02.0f:%02.0f", date.year, date.month, date.day,
-                  date.hour, date.minute, std::floor(date.seconds));
-    return buffer;
+    return interp::dateText(serial, interp::DateTextForm::WholeSeconds);
 }
 
 // The message on one line, cut with "..." past the column's width.

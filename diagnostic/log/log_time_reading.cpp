@@ -5,7 +5,10 @@
 
 #include <orrery/except/throw_message.hpp>
 
+#include <charconv>
 #include <climits>
+#include <cstring>
+#include <system_error>
 
 namespace orrery::lang::diagnostic {
 namespace {
@@ -30,24 +33,18 @@ bool separators(const char*& p) {
     return true;
 }
 
-// "%d": blanks, an optional sign, one or more digits. As the C library does, the
-// number saturates at the limits of long and is then stored modulo 2^32.
-bool number(const char*& p, int& out) {
+// "%d": blanks, an optional sign, one or more digits, read by std::from_chars. As
+// the C library does, the number saturates at the limits of long and is then
+// stored modulo 2^32.
+bool number(const char*& p, const char* end, int& out) {
     skipBlanks(p);
-    const bool negative = *p == '-';
-    if (*p == '+' || *p == '-') ++p;
-    if (!isDigit(*p)) return false;
-    constexpr unsigned long long kLimit = 1ULL << 63;
-    unsigned long long magnitude = 0;
-    for (; isDigit(*p); ++p) {
-        const auto digit = static_cast<unsigned long long>(*p - '0');
-        magnitude = magnitude > (kLimit - digit) / 10 ? kLimit : magnitude * 10 + digit;
-    }
+    const char* digits = *p == '+' ? p + 1 : p;
+    const char* first = *digits == '-' && digits == p ? digits + 1 : digits;
+    if (!isDigit(*first)) return false;
     long value = 0;
-    if (negative)
-        value = magnitude >= kLimit ? LONG_MIN : -static_cast<long>(magnitude);
-    else
-        value = magnitude >= kLimit ? LONG_MAX : static_cast<long>(magnitude);
+    const auto [stop, error] = std::from_chars(digits, end, value);
+    if (error == std::errc::result_out_of_range) value = *digits == '-' ? LONG_MIN : LONG_MAX;
+    p = stop;
     out = static_cast<int>(value);
     return true;
 }
@@ -55,12 +52,14 @@ bool number(const char*& p, int& out) {
 }  // namespace
 
 bool scanLogTime(const char* p, LogTimeFields& f) {
-    if (!number(p, f[0]) || !literal(p, '-') || !number(p, f[1]) || !literal(p, '-') || !number(p, f[2])) return false;
+    const char* end = p + std::strlen(p);
+    const auto read = [&](int& field) { return number(p, end, field); };
+    if (!read(f[0]) || !literal(p, '-') || !read(f[1]) || !literal(p, '-') || !read(f[2])) return false;
     skipBlanks(p);
-    if (!number(p, f[3]) || !literal(p, ':') || !number(p, f[4]) || !literal(p, ':') || !number(p, f[5])) return false;
-    if (!separators(p) || !number(p, f[6])) return false;
+    if (!read(f[3]) || !literal(p, ':') || !read(f[4]) || !literal(p, ':') || !read(f[5])) return false;
+    if (!separators(p) || !read(f[6])) return false;
     skipBlanks(p);
-    return number(p, f[7]);
+    return read(f[7]);
 }
 
 double readLogTime(const char* text, interp::UtcOffset localOffset) {

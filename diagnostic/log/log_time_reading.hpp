@@ -13,8 +13,8 @@ using LogTimeFields = std::array<int, 8>;
 
 /// Scans text exactly as std::sscanf(text, "%d-%d-%d %d:%d:%d%*[.,]%d %d", ...)
 /// does in the "C" locale, numbers out of range included; true when all eight
-/// numbers are read. (A hand-written scanner: the library's costs as much as the
-/// rest of a warning's element.)
+/// numbers are read. (The numbers are read by std::from_chars: the C scanner
+/// costs as much as the rest of a warning's element.)
 bool scanLogTime(const char* text, LogTimeFields& fields);
 
 /// The serial day number of a time text, moved from the zone's offset to

@@ -7,8 +7,8 @@
 
 namespace orrery::lang::diagnostic {
 
-/// "YYYY-MM-DD hh:mm:ss.sss +hhmm": the serial day number split by calcDatevec,
-/// followed by the given offset from UTC. Hours and minutes of the offset are
+/// "YYYY-MM-DD hh:mm:ss.sss +hhmm": the serial day number in the platform's
+/// log-time form (interp::DateTextForm::LogTime), with the given offset from UTC. Hours and minutes of the offset are
 /// printed each with its own sign, so minus three and a half hours reads "-03-30".
 std::string logTimeText(double serial, interp::UtcOffset offset);
 

@@ -12,31 +12,31 @@ inline constexpr std::string_view kWarningPrefix = "ORRERY:warning:";
 
 // ---- state commands: refusals -------------------------------------------------------
 /// Argument: the rejected setting or identifier.
-ORRERY_MESSAGE_KEY(UnknownSettingOrId, "ORRERY:warning:unknownSettingOrId");
-ORRERY_MESSAGE_KEY(NoLastWarning, "ORRERY:warning:noLastWarning");
-ORRERY_MESSAGE_KEY(CannotUseAllWithError, "ORRERY:warning:cannotUseAllWithError");
+ORRERY_MESSAGE_KEY(UnknownSettingOrId, "ORRERY:warning:unknownSettingOrId", 1);
+ORRERY_MESSAGE_KEY(NoLastWarning, "ORRERY:warning:noLastWarning", 0);
+ORRERY_MESSAGE_KEY(CannotUseAllWithError, "ORRERY:warning:cannotUseAllWithError", 0);
 /// Arguments: the obsolete command and its replacement.
-ORRERY_MESSAGE_KEY(DebugOptionIsObsolete, "ORRERY:warning:debugOptionIsObsolete");
+ORRERY_MESSAGE_KEY(DebugOptionIsObsolete, "ORRERY:warning:debugOptionIsObsolete", 2);
 /// Argument: the value given.
-ORRERY_MESSAGE_KEY(IllegalDebugSetting, "ORRERY:warning:illegalDebugSetting");
+ORRERY_MESSAGE_KEY(IllegalDebugSetting, "ORRERY:warning:illegalDebugSetting", 1);
 /// Arguments: "backtrace" and the value given.
-ORRERY_MESSAGE_KEY(IllegalBacktraceSetting, "ORRERY:warning:illegalBacktraceSetting");
+ORRERY_MESSAGE_KEY(IllegalBacktraceSetting, "ORRERY:warning:illegalBacktraceSetting", 2);
 /// Arguments: "verbose" and the value given.
-ORRERY_MESSAGE_KEY(IllegalVerboseSetting, "ORRERY:warning:illegalVerboseSetting");
-ORRERY_MESSAGE_KEY(OnceAndAlwaysObsolete, "ORRERY:warning:OnceAndAlwaysObsolete");
+ORRERY_MESSAGE_KEY(IllegalVerboseSetting, "ORRERY:warning:illegalVerboseSetting", 2);
+ORRERY_MESSAGE_KEY(OnceAndAlwaysObsolete, "ORRERY:warning:OnceAndAlwaysObsolete", 0);
 
 // ---- state structures: each argument is the element's index, from 1 -------------------
-ORRERY_MESSAGE_KEY(MissingStructureField, "ORRERY:warning:missingStructureField");
-ORRERY_MESSAGE_KEY(NonStringState, "ORRERY:warning:nonStringState");
-ORRERY_MESSAGE_KEY(BadStateValue, "ORRERY:warning:badStateValue");
-ORRERY_MESSAGE_KEY(NonStringIdentifier, "ORRERY:warning:nonStringIdentifier");
-ORRERY_MESSAGE_KEY(BadIdentifierValue, "ORRERY:warning:badIdentifierValue");
+ORRERY_MESSAGE_KEY(MissingStructureField, "ORRERY:warning:missingStructureField", 0);
+ORRERY_MESSAGE_KEY(NonStringState, "ORRERY:warning:nonStringState", 1);
+ORRERY_MESSAGE_KEY(BadStateValue, "ORRERY:warning:badStateValue", 1);
+ORRERY_MESSAGE_KEY(NonStringIdentifier, "ORRERY:warning:nonStringIdentifier", 1);
+ORRERY_MESSAGE_KEY(BadIdentifierValue, "ORRERY:warning:badIdentifierValue", 1);
 
 // ---- lastwarn -----------------------------------------------------------------------
 /// Argument: the name of the offending argument.
-ORRERY_MESSAGE_KEY(MustBeSingleString, "ORRERY:string:MustBeSingleString");
+ORRERY_MESSAGE_KEY(MustBeSingleString, "ORRERY:string:MustBeSingleString", 1);
 /// Argument: the rejected identifier.
-ORRERY_MESSAGE_KEY(LastwarnBadMessageIdentifier, "ORRERY:lastwarn:badMessageIdentifier");
+ORRERY_MESSAGE_KEY(LastwarnBadMessageIdentifier, "ORRERY:lastwarn:badMessageIdentifier", 1);
 
 // ---- warnings the built-in issues itself ---------------------------------------------
 inline constexpr std::string_view kInputsOutOfOrder = "ORRERY:warning:inputsOutOfOrder";

@@ -7,11 +7,11 @@
 
 namespace orrery::shell::builtins {
 
-/// size, numel, isempty, isscalar, class, isequal.
+/// size, numel, isempty, class, isequal.
 std::span<const BuiltinEntry> valueBuiltins();
 /// zeros, ones, cell, double, single, int8..uint64, logical, Inf, NaN, pi, true, false.
 std::span<const BuiltinEntry> constructionBuiltins();
-/// disp, fprintf, sprintf, strcmp, strcmpi.
+/// disp, fprintf, strcmp, strcmpi.
 std::span<const BuiltinEntry> textBuiltins();
 /// char, string.
 std::span<const BuiltinEntry> textConversionBuiltins();

@@ -26,12 +26,9 @@ using value::ValueArrayPtr;
 inline constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
 
 /// One row of a group's table: the language name and the built-in behind it.
-/// keepExisting marks functions the platform may define itself (isscalar,
-/// sprintf): they are registered only when the name is still free.
 struct BuiltinEntry {
     std::string_view name;
     value::BuiltinFunction function;
-    bool keepExisting = false;
 };
 
 /// The arguments of one call, as the built-in signature passes them.

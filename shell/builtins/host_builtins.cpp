@@ -9,9 +9,7 @@ namespace orrery::shell {
 namespace {
 
 void registerTable(std::span<const builtins::BuiltinEntry> table) {
-    for (const auto& entry : table)
-        if (!entry.keepExisting || !interp::isFunction(entry.name))
-            interp::registerFunction(entry.name, entry.function);
+    for (const auto& entry : table) interp::registerFunction(entry.name, entry.function);
 }
 
 // Every group of the host's built-ins.

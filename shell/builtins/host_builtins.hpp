@@ -7,9 +7,9 @@
 
 namespace orrery::shell {
 
-/// Registers every host built-in (disp, sprintf, size, struct, sort, exist, ...)
-/// in the platform's function table. Registering again replaces the same
-/// functions; the platform's own isscalar and sprintf are left in place.
+/// Registers every host built-in (disp, size, struct, sort, exist, ...) in the
+/// platform's function table. Registering again replaces the same functions; the
+/// platform's own isscalar and sprintf are not among them.
 void registerHostBuiltins();
 
 /// The language names registerHostBuiltins registers.

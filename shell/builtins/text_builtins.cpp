@@ -1,4 +1,5 @@
-// Built-ins that print and compare text: disp, fprintf, sprintf, strcmp, strcmpi.
+// Built-ins that print and compare text: disp, fprintf, strcmp, strcmpi (sprintf is
+// the platform's own).
 #include "shell/builtins/builtin_groups.hpp"
 #include "shell/builtins/builtin_messages.hpp"
 #include "shell/builtins/builtin_support.hpp"
@@ -19,11 +20,6 @@ namespace {
 void bnDisp(std::int32_t nlhs, ValueArrayPtr*, std::int32_t nrhs, const ValueArray* const* prhs) {
     checkArgumentCounts(nlhs, 0, nrhs, 1, 1);
     writeOutput(dispText(*prhs[0]));
-}
-
-void bnSprintf(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
-    checkArgumentCounts(nlhs, 1, nrhs, 1, anyCount);
-    plhs[0] = makeValue(interp::fiSprintf(nrhs, prhs));
 }
 
 // The file identifier of fprintf(fid, format, ...): 1 standard output, 2 standard error.
@@ -117,8 +113,10 @@ void bnStrcmpi(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
 }
 
 constexpr BuiltinEntry table[] = {
-    {"disp", bnDisp},     {"fprintf", bnFprintf}, {"sprintf", bnSprintf, true},
-    {"strcmp", bnStrcmp}, {"strcmpi", bnStrcmpi},
+    {"disp", bnDisp},
+    {"fprintf", bnFprintf},
+    {"strcmp", bnStrcmp},
+    {"strcmpi", bnStrcmpi},
 };
 
 }  // namespace

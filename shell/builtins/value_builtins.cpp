@@ -1,4 +1,5 @@
-// Built-ins that inspect values: size, numel, isempty, isscalar, class, isequal.
+// Built-ins that inspect values: size, numel, isempty, class, isequal (isscalar is
+// the platform's own).
 #include "shell/builtins/builtin_groups.hpp"
 #include "shell/builtins/builtin_support.hpp"
 #include "shell/builtins/value_equality.hpp"
@@ -51,11 +52,6 @@ void bnIsEmpty(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
     plhs[0] = makeValue(ValueArray::logicalScalar(prhs[0]->isEmpty()));
 }
 
-void bnIsScalar(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
-    checkArgumentCounts(nlhs, 1, nrhs, 1, 1);
-    plhs[0] = makeValue(ValueArray::logicalScalar(prhs[0]->isScalar()));
-}
-
 void bnClass(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
     checkArgumentCounts(nlhs, 1, nrhs, 1, 1);
     plhs[0] = makeValue(ValueArray::charsFromUtf8(prhs[0]->className()));
@@ -70,8 +66,7 @@ void bnIsEqual(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
 }
 
 constexpr BuiltinEntry table[] = {
-    {"size", bnSize},   {"numel", bnNumel},     {"isempty", bnIsEmpty},
-    {"class", bnClass}, {"isequal", bnIsEqual}, {"isscalar", bnIsScalar, true},
+    {"size", bnSize}, {"numel", bnNumel}, {"isempty", bnIsEmpty}, {"class", bnClass}, {"isequal", bnIsEqual},
 };
 
 }  // namespace

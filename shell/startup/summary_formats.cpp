@@ -2,12 +2,12 @@
 #include "shell/startup/log_summary.hpp"
 
 #include <orrery/except/internal_error.hpp>
+#include <orrery/interp/date_text.hpp>
 #include <orrery/interp/dates.hpp>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <string_view>
 
@@ -19,17 +19,7 @@ constexpr std::string_view kColumns[] = {"identifier", "count", "disabled", "fir
 // "2026-03-04T10:07:30.250+01:00": local standard time, the zone the log's
 // reader moved every time into, with that zone's offset.
 std::string isoTime(double serial) {
-    const interp::DateVector date = interp::calcDatevec(serial);
-    const double wholeSeconds = std::floor(date.seconds);
-    const int milliseconds = std::min(999, static_cast<int>(std::lround((date.seconds - wholeSeconds) * 1000)));
-    const interp::UtcOffset offset = interp::localUtcOffset();
-    const char sign = offset.hours < 0 || offset.minutes < 0 ? '-' : '+';
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02dT%02d:%02d:%02d.%03d%c%02d:%02d", static_cast<int>(date.year),
-                  static_cast<int>(date.month), static_cast<int>(date.day), static_cast<int>(date.hour),
-                  static_cast<int>(date.minute), static_cast<int>(wholeSeconds), milliseconds, sign,
-                  std::abs(offset.hours), std::abs(offset.minutes));
-    return buffer;
+    return interp::dateText(serial, interp::DateTextForm::Iso8601, interp::localUtcOffset());
 }
 
 constexpr bool isCountColumn(std::size_t column) { return column == 1 || column == 2; }

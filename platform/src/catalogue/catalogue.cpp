@@ -26,8 +26,8 @@
 namespace orrery::catalogue {
 namespace {
 
-ORRERY_MESSAGE_KEY(NoSuchMessage, "ORRERY:catalogue:noSuchMessage");
-ORRERY_MESSAGE_KEY(ArgumentMismatch, "ORRERY:catalogue:argumentMismatch");
+ORRERY_MESSAGE_KEY(NoSuchMessage, "ORRERY:catalogue:noSuchMessage", 1);
+ORRERY_MESSAGE_KEY(ArgumentMismatch, "ORRERY:catalogue:argumentMismatch", 1);
 
 struct BundleCloser {
     void operator()(UResourceBundle* bundle) const { ures_close(bundle); }
@@ -116,11 +116,22 @@ std::string catalogueFolder() {
 
 bool hasMessage(std::string_view identifier) { return lookupPattern(identifier).has_value(); }
 
-std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments) {
+namespace {
+
+// The pattern of the identifier as ICU text; a missing entry raises "noSuchMessage".
+icu::UnicodeString requirePattern(std::string_view identifier) {
     const auto pattern = lookupPattern(identifier);
     if (!pattern) except::throwMessage(NoSuchMessage(text::utf8ToUtf16(identifier)));
+    return {pattern->data(), static_cast<int32_t>(pattern->size())};
+}
+
+}  // namespace
+
+std::size_t messageArgumentCount(std::string_view identifier) { return argumentsUsed(requirePattern(identifier)); }
+
+std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments) {
+    const icu::UnicodeString patternText = requirePattern(identifier);
     UErrorCode status = U_ZERO_ERROR;
-    const icu::UnicodeString patternText(pattern->data(), static_cast<int32_t>(pattern->size()));
     icu::MessageFormat format(patternText, icu::Locale::getDefault(), status);
     if (U_FAILURE(status)) except::internalError("message catalogue", "malformed entry for " + std::string(identifier));
     if (arguments.size() != argumentsUsed(patternText))

@@ -5,7 +5,7 @@
 
 namespace orrery::interp::messages {
 
-ORRERY_MESSAGE_KEY(NotFinite, "ORRERY:dates:notFinite");
-ORRERY_MESSAGE_KEY(OutOfRange, "ORRERY:dates:outOfRange");
+ORRERY_MESSAGE_KEY(NotFinite, "ORRERY:dates:notFinite", 0);
+ORRERY_MESSAGE_KEY(OutOfRange, "ORRERY:dates:outOfRange", 0);
 
 }  // namespace orrery::interp::messages

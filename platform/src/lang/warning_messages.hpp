@@ -5,9 +5,9 @@
 
 namespace orrery::lang::diagnostic::messages {
 
-ORRERY_MESSAGE_KEY(BadArguments, "ORRERY:warning:badArguments");
-ORRERY_MESSAGE_KEY(BadArgument, "ORRERY:warning:badArgument");
-ORRERY_MESSAGE_KEY(BadStack, "ORRERY:warning:badStack");
-ORRERY_MESSAGE_KEY(BadStackFrame, "ORRERY:warning:badStackFrame");
+ORRERY_MESSAGE_KEY(BadArguments, "ORRERY:warning:badArguments", 0);
+ORRERY_MESSAGE_KEY(BadArgument, "ORRERY:warning:badArgument", 1);
+ORRERY_MESSAGE_KEY(BadStack, "ORRERY:warning:badStack", 0);
+ORRERY_MESSAGE_KEY(BadStackFrame, "ORRERY:warning:badStackFrame", 1);
 
 }  // namespace orrery::lang::diagnostic::messages

@@ -45,7 +45,7 @@ TEST(LogTimeReading, ScansAsTheCLibraryScansTheTimeFormat) {
          {"2024-03-05 14:07:09.250 +0100", "2024-03-01 10:00:00.000 -03-30", "2024-03-01 10:00:00 +0100",
           "2024-03-01T10:00:00.000 +0100", "2024- 3-+1\t\n1:-2: 3.,.7+5", "2024-03-01 10:00:00.-5 -",
           "99999999999-4294967297-2147483648 -9999999999999999999999:0:0.0 0", "2024--03-01 10:00:00.000 +0100", "",
-          "+-1-1-1 1:1:1.1 1"}) {
+          "+-1-1-1 1:1:1.1 1", "+2024-+3--1 +10:-0:+0,+1 -+1", " -0-0-0 0:0:0,0 -0", "1-1-1 1:1:1.1 +"}) {
         SCOPED_TRACE(text);
         LogTimeFields expected{};
         const bool read = std::sscanf(text, "%d-%d-%d %d:%d:%d%*[.,]%d %d", &expected[0], &expected[1], &expected[2],
@@ -67,8 +67,10 @@ TEST(LogTimeText, EqualsTheCFormatOverAwkwardTimesAndOffsets) {
                               datenumFromDatevec(12345, 6, 7, 8, 9, 10.5),
                               1.0,
                               0.0,
-                              -400.75};
-    const orrery::interp::UtcOffset offsets[] = {{0, 0}, {-3, -30}, {5, 30}, {-12, 0}, {14, 45}, {0, -30}};
+                              -400.75,
+                              datenumFromDatevec(-32767, 1, 1, 0, 0, 0.125)};
+    // {-12, -30} with a year of five digits and a sign fills the C buffer: the text is cut.
+    const orrery::interp::UtcOffset offsets[] = {{0, 0}, {-3, -30}, {5, 30}, {-12, 0}, {14, 45}, {0, -30}, {-12, -30}};
     for (const double serial : serials) {
         const auto date = orrery::interp::calcDatevec(serial, 0);
         for (const auto& offset : offsets) {

@@ -46,6 +46,21 @@ static bool isAnalyzerIdentifier(const std::string& id) {
            hasMessage("ORRERY:msgInputAnalyzer:" + mnemonic);
 }
 
+// Calls f(path, text) for every C++ source file of the platform, module and shell.
+template <class F>
+static void forEachSource(F f) {
+    for (const char* folder : {"platform", "diagnostic", "shell"}) {
+        const auto root = std::filesystem::path(ORRERY_SOURCE_DIR) / folder;
+        if (!std::filesystem::exists(root)) continue;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+            const auto extension = entry.path().extension();
+            if (extension != ".cpp" && extension != ".hpp") continue;
+            std::ifstream in(entry.path());
+            f(entry.path(), std::string{std::istreambuf_iterator<char>(in), {}});
+        }
+    }
+}
+
 // Identifier literals in the sources; prefixes ("ORRERY:error:") and bare
 // components are not identifiers.
 static std::set<std::string> identifierLiterals() {
@@ -54,20 +69,12 @@ static std::set<std::string> identifierLiterals() {
                                                          "ORRERY:msgInputAnalyzer"};
     const std::regex literal("\"(ORRERY:[A-Za-z0-9_:-]+)\"");
     std::set<std::string> found;
-    for (const char* folder : {"platform", "diagnostic", "shell"}) {
-        const auto root = std::filesystem::path(ORRERY_SOURCE_DIR) / folder;
-        if (!std::filesystem::exists(root)) continue;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-            const auto extension = entry.path().extension();
-            if (extension != ".cpp" && extension != ".hpp") continue;
-            std::ifstream in(entry.path());
-            const std::string source{std::istreambuf_iterator<char>(in), {}};
-            for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
-                const std::string id = (*it)[1];
-                if (id.back() != ':' && !notIdentifiers.contains(id) && !isAnalyzerIdentifier(id)) found.insert(id);
-            }
+    forEachSource([&](const std::filesystem::path&, const std::string& source) {
+        for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
+            const std::string id = (*it)[1];
+            if (id.back() != ':' && !notIdentifiers.contains(id) && !isAnalyzerIdentifier(id)) found.insert(id);
         }
-    }
+    });
     return found;
 }
 
@@ -75,4 +82,18 @@ TEST(Catalogue, HasATextForEveryIdentifierInTheSources) {
     const auto identifiers = identifierLiterals();
     EXPECT_GT(identifiers.size(), 10u);
     for (const auto& id : identifiers) EXPECT_TRUE(hasMessage(id)) << "no catalogue text for " << id;
+}
+
+// A key's declared argument count is what the compiler holds its makers to, so it
+// must be the count its catalogue text takes.
+TEST(Catalogue, EveryDeclaredKeyTakesTheArgumentsOfItsText) {
+    const std::regex declaration(R"re(ORRERY_MESSAGE_KEY\((\w+),\s*"([^"]+)",\s*(\d+)\))re");
+    std::size_t keys = 0;
+    forEachSource([&](const std::filesystem::path& path, const std::string& source) {
+        for (std::sregex_iterator it(source.begin(), source.end(), declaration), end; it != end; ++it, ++keys) {
+            const std::string id = (*it)[2];
+            EXPECT_EQ(messageArgumentCount(id), std::stoul((*it)[3])) << (*it)[1] << " (" << id << ") in " << path;
+        }
+    });
+    EXPECT_GT(keys, 100u);
 }

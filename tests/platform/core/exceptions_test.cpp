@@ -2,15 +2,27 @@
 #include "tests/support/expect_error.hpp"
 
 #include <orrery/except/argument_errors.hpp>
+#include <orrery/except/host_messages.hpp>
 #include <orrery/except/qexception_envelope.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/interp/call_stack.hpp>
+
+#include <cstddef>
+#include <string>
+#include <type_traits>
 
 using namespace orrery;
 using except::QException;
 
 namespace {
-ORRERY_MESSAGE_KEY(StackLine, "ORRERY:error:badStackLine");
+ORRERY_MESSAGE_KEY(StackLine, "ORRERY:error:badStackLine", 0);
+
+// A key is made with exactly the arguments its declaration counts.
+using except::host::NestedTooDeep;  // one argument: the depth limit
+static_assert(std::is_constructible_v<StackLine> && !std::is_constructible_v<StackLine, std::u16string>);
+static_assert(std::is_constructible_v<NestedTooDeep, std::size_t>);
+static_assert(!std::is_constructible_v<NestedTooDeep>);
+static_assert(!std::is_constructible_v<NestedTooDeep, std::size_t, std::u16string>);
 }  // namespace
 
 TEST(ThrowMessage, RaisesTheKeysOwnTypeAfterReportingToTheLegacyLayer) {
@@ -48,6 +60,7 @@ TEST(QExceptionEnvelope, SuppliesTheCurrentStackWhenNoneIsGiven) {
     interp::FrameGuard inner({u"/s/inner.orr", u"inner", 9});
     try {
         except::QExceptionEnvelope("ORRERY:a:b", u"m\u00E9ssage", std::nullopt, 1).DoThrow();
+        FAIL() << "DoThrow returned";
     } catch (const QException& error) {
         EXPECT_STREQ(error.what(), "m\xC3\xA9ssage");
         ASSERT_EQ(error.stack().dims(), (value::Dims{2, 1}));

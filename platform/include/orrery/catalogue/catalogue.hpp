@@ -5,6 +5,7 @@
 #include <orrery/catalogue/message_argument.hpp>
 #include <orrery/export.hpp>
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,6 +20,10 @@ ORRERY_API bool hasMessage(std::string_view identifier);
 /// arguments of the wrong kind for the pattern, or more or fewer than it uses,
 /// raise "ORRERY:catalogue:argumentMismatch".
 ORRERY_API std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments = {});
+
+/// The number of arguments the identifier's text takes: one more than its highest
+/// placeholder number. A missing entry raises "ORRERY:catalogue:noSuchMessage".
+ORRERY_API std::size_t messageArgumentCount(std::string_view identifier);
 
 /// Convenience: formatMessage converted to UTF-8.
 ORRERY_API std::string formatMessageUtf8(std::string_view identifier, std::span<const MessageArgument> arguments = {});

@@ -4,6 +4,7 @@
 #include <orrery/catalogue/message_argument.hpp>
 #include <orrery/export.hpp>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,14 +34,19 @@ constexpr std::string_view mnemonicOf(std::string_view identifier) {
     return identifier.substr(identifier.rfind(':') + 1);
 }
 
-/// Base of the typed keys; Self is the key type, which names its identifier.
-template <class Self>
+/// Base of the typed keys; Self is the key type, which names its identifier, and
+/// Count is the number of arguments its catalogue text takes. A key is made with
+/// exactly Count arguments: any other number does not compile.
+template <class Self, std::size_t Count>
 struct MessageKey : MessageID {
     template <class... Args>
-    explicit MessageKey(Args&&... args)
+    requires(sizeof...(Args) == Count) explicit MessageKey(Args&&... args)
         : MessageID{std::string(componentOf(Self::identifierText)),
                     std::string(mnemonicOf(Self::identifierText)),
                     {toArgument(std::forward<Args>(args))...}} {}
+
+    /// The number of arguments of the key.
+    static constexpr std::size_t argumentCount = Count;
 
 private:
     static MessageArgument toArgument(std::u16string text) { return MessageArgument(std::move(text)); }
@@ -52,9 +58,10 @@ private:
 
 }  // namespace orrery::except
 
-/// Declares the key type Name for the catalogue identifier Identifier (a literal).
-#define ORRERY_MESSAGE_KEY(Name, Identifier)                           \
-    struct Name : ::orrery::except::MessageKey<Name> {                 \
+/// Declares the key type Name for the catalogue identifier Identifier (a literal),
+/// whose text takes ArgumentCount arguments ({0} to {ArgumentCount - 1}).
+#define ORRERY_MESSAGE_KEY(Name, Identifier, ArgumentCount)            \
+    struct Name : ::orrery::except::MessageKey<Name, ArgumentCount> {  \
         using MessageKey::MessageKey;                                  \
         static constexpr std::string_view identifierText = Identifier; \
     }

@@ -3,6 +3,7 @@
 
 #include <orrery/export.hpp>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,5 +15,9 @@ namespace orrery::text {
 /// target, `>`, a label holding no further `<a href=`, and `</a>`; anything else,
 /// including an unclosed or nested link, stays as it is.
 ORRERY_API std::string ioStripHotLinks(std::string_view utf8);
+
+/// The same, adding to `examined` the bytes its searches passed over: the work
+/// done, which stays within a small multiple of the text's size for any mark-up.
+ORRERY_API std::string ioStripHotLinks(std::string_view utf8, std::size_t& examined);
 
 }  // namespace orrery::text
