@@ -60,7 +60,7 @@ run_target() {
     if [ -d "$folder" ]; then seeds+=("$folder"); fi
   done
   # shellcheck disable=SC2046
-  build/fuzz/bin/"$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+  build/fuzz/bin/"$name" -max_total_time="$seconds" -timeout="${FUZZ_UNIT_TIMEOUT:-10}" -rss_limit_mb=2048 -print_final_stats=1 \
     -artifact_prefix="$findings/" $(options_of "$name") "$corpus" "${seeds[@]}" >"$work/$name.log" 2>&1 || true
 }
 
