@@ -17,29 +17,24 @@ namespace {
 
 constexpr std::string_view kIndent = "  ";
 
+// The parts of text between separators (none for an empty text).
+std::vector<std::string_view> split(std::string_view text, std::string_view separator) {
+    std::vector<std::string_view> parts;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(separator), text.size());
+        parts.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + separator.size(), text.size()));
+    }
+    return parts;
+}
+
+std::vector<std::string_view> lines(std::string_view text) { return split(text, "\n"); }
+
 }  // namespace
 
-std::vector<std::string_view> namesIn(std::string_view list) {
-    std::vector<std::string_view> names;
-    while (!list.empty()) {
-        const std::size_t end = std::min(list.find(", "), list.size());
-        names.push_back(list.substr(0, end));
-        list.remove_prefix(std::min(end + 2, list.size()));
-    }
-    return names;
-}
+std::vector<std::string_view> namesIn(std::string_view list) { return split(list, ", "); }
 
 namespace {
-
-std::vector<std::string_view> lines(std::string_view text) {
-    std::vector<std::string_view> result;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        result.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return result;
-}
 
 // The forms as two columns: every call padded to the widest one.
 std::string formsText(std::string_view forms) {
