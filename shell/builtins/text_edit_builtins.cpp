@@ -178,8 +178,8 @@ void bnNum2str(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const 
     std::vector<std::size_t> widths(cols, 0);
     for (std::size_t i = 0; i < x.numel(); ++i) {
         cells[i] = numberText(x.realAt(i), significant);
-        widths[i / std::max<std::size_t>(rows, 1)] =
-            std::max(widths[i / std::max<std::size_t>(rows, 1)], cells[i].size());
+        std::size_t& width = widths[i / rows];  // rows > 0: an array with elements has rows
+        width = std::max(width, cells[i].size());
     }
     std::vector<std::string> lines(rows);
     for (std::size_t r = 0; r < rows; ++r)
