@@ -20,7 +20,7 @@ using value::ValueArray;
 void Interpreter::execAssign(const lang::Stmt& stmt) {
     const lang::LValue& target = stmt.targets[0];
     assignTo(target, eval(*stmt.expr));
-    if (stmt.printResult) show(target.name, *current_->find(target.name));
+    if (stmt.printResult) show(target.name, *targetValue(target));
 }
 
 void Interpreter::execMultiAssign(const lang::Stmt& stmt) {
@@ -34,12 +34,17 @@ void Interpreter::execMultiAssign(const lang::Stmt& stmt) {
     }
     if (!stmt.printResult) return;
     for (const auto& target : stmt.targets)
-        if (!target.ignored) show(target.name, *current_->find(target.name));
+        if (!target.ignored) show(target.name, *targetValue(target));
+}
+
+const ValueArray* Interpreter::targetValue(const lang::LValue& target) {
+    return current_->at(current_->slot(target.name, target.slot));
 }
 
 void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
+    const std::uint32_t slot = current_->slot(target.name, target.slot);
     if (target.suffixes.empty()) {
-        current_->set(target.name, std::move(rhs));
+        current_->setAt(slot, std::move(rhs));
         return;
     }
     std::vector<AssignStep> steps;
@@ -47,17 +52,17 @@ void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
         // A share of the variable while its index arguments run (they may
         // change the workspace); released before the change, which then finds
         // the data unshared unless something else holds it.
-        const ValueArray* existing = current_->find(target.name);
+        const ValueArray* existing = current_->at(slot);
         const ValueArray root = existing != nullptr ? *existing : ValueArray();
         steps = planAssignment(root, target.suffixes);
     }
-    if (ValueArray* place = current_->findMutable(target.name)) {
+    if (ValueArray* place = current_->mutableAt(slot)) {
         assignPlace(*place, steps, 0, std::move(rhs));
         return;
     }
     ValueArray made;
     assignPlace(made, steps, 0, std::move(rhs));
-    current_->set(target.name, std::move(made));
+    current_->setAt(slot, std::move(made));
 }
 
 std::vector<AssignStep> Interpreter::planAssignment(const ValueArray& root, const std::vector<lang::Suffix>& chain) {

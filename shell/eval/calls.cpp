@@ -80,6 +80,17 @@ private:
 
 }  // namespace
 
+Interpreter::UserFunction::UserFunction(std::shared_ptr<const lang::FunctionDef> definition, std::u16string fileName)
+    : def(std::move(definition)),
+      file(std::move(fileName)),
+      name(text::utf8ToUtf16(def->name)),
+      layout(std::make_shared<SlotLayout>()) {
+    for (const auto& input : def->inputs) inputSlots.push_back(layout->slotOf(input));
+    narginSlot = layout->slotOf("nargin");
+    nargoutSlot = layout->slotOf("nargout");
+    for (const auto& output : def->outputs) outputSlots.push_back(layout->slotOf(output));
+}
+
 bool Interpreter::isCallable(const std::string& name, const Values& args) const {
     if (functions_.contains(name) || interp::isFunction(name) || isSessionCommand(name)) return true;
     const auto inputs = pointersTo(args);
@@ -112,30 +123,31 @@ Interpreter::Values Interpreter::callNamespaceFunction(const std::string& path, 
         });
 }
 
-Interpreter::Values Interpreter::callUser(const UserFunction& function, const Values& args, int nargout) {
+Interpreter::Values Interpreter::callUser(std::shared_ptr<const UserFunction> held, const Values& args, int nargout) {
+    const UserFunction& function = *held;
     const lang::FunctionDef& def = *function.def;
     if (args.size() > def.inputs.size()) raiseArgumentError(def.name, except::throwTooManyInputs);
     if (static_cast<std::size_t>(nargout) > def.outputs.size())
         raiseArgumentError(def.name, except::throwTooManyOutputs);
     if (callDepth_ >= kMaxCallDepth) except::throwMessage(RecursionLimit(kMaxCallDepth));
 
-    Workspace local;
+    Workspace local(function.layout);
     for (std::size_t i = 0; i < args.size(); ++i)
-        if (def.inputs[i] != "~") local.set(def.inputs[i], args[i]);
-    local.set("nargin", ValueArray::scalar(static_cast<double>(args.size())));
-    local.set("nargout", ValueArray::scalar(nargout));
+        if (def.inputs[i] != "~") local.setAt(function.inputSlots[i], args[i]);
+    local.setAt(function.narginSlot, ValueArray::scalar(static_cast<double>(args.size())));
+    local.setAt(function.nargoutSlot, ValueArray::scalar(nargout));
 
     {
         const Restore<Workspace*> workspace(current_, &local);
         const Restore<std::size_t> depth(callDepth_, callDepth_ + 1);
-        const interp::FrameGuard frame({function.file, text::utf8ToUtf16(def.name), def.pos.line});
+        const interp::FrameGuard frame({function.file, function.name, def.pos.line});
         execBlock(def.body);
     }
 
     Values results;
     const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(nargout, 1)), def.outputs.size());
     for (std::size_t i = 0; i < wanted; ++i) {
-        const ValueArray* output = local.find(def.outputs[i]);
+        const ValueArray* output = local.at(function.outputSlots[i]);
         if (output != nullptr) {
             results.push_back(*output);
         } else if (static_cast<int>(i) < nargout) {

@@ -42,7 +42,7 @@ ValueArray Interpreter::eval(const lang::Expr& expr) {
         case ExprKind::CellArray: return evalBracketed(expr);
         case ExprKind::Name:
             // a variable's value straight from the workspace, without a list of results
-            if (const ValueArray* variable = current_->find(expr.name)) return *variable;
+            if (const ValueArray* variable = current_->at(current_->slot(expr.name, expr.slot))) return *variable;
             [[fallthrough]];
         case ExprKind::Postfix: {
             Values results = evalMulti(expr, 1);
@@ -54,7 +54,7 @@ ValueArray Interpreter::eval(const lang::Expr& expr) {
 }
 
 Interpreter::Values Interpreter::evalMulti(const lang::Expr& expr, int nargout) {
-    if (expr.kind == ExprKind::Name) return evalName(expr.name, nullptr, nargout);
+    if (expr.kind == ExprKind::Name) return evalName(expr, nullptr, nargout);
     if (expr.kind == ExprKind::Postfix) return evalPostfix(expr, nargout);
     return {eval(expr)};
 }

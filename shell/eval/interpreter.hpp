@@ -10,6 +10,7 @@
 #include <orrery/value/value_array.hpp>
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -49,9 +50,19 @@ public:
 private:
     enum class Flow { Normal, Break, Continue, Return };
 
+    /// A script function with what every call of it needs made once: its
+    /// frame's texts and the slots of its inputs, outputs, nargin and nargout
+    /// in the layout all its calls' workspaces share.
     struct UserFunction {
+        UserFunction(std::shared_ptr<const lang::FunctionDef> definition, std::u16string fileName);
         std::shared_ptr<const lang::FunctionDef> def;
         std::u16string file;
+        std::u16string name;
+        std::shared_ptr<SlotLayout> layout;
+        std::vector<std::uint32_t> inputSlots;
+        std::vector<std::uint32_t> outputSlots;
+        std::uint32_t narginSlot;
+        std::uint32_t nargoutSlot;
     };
 
     /// What 'end' means inside the index arguments being evaluated.
@@ -82,6 +93,8 @@ private:
     void execAssign(const lang::Stmt& stmt);
     void execMultiAssign(const lang::Stmt& stmt);
     void assignTo(const lang::LValue& target, value::ValueArray rhs);
+    /// The variable an assignment target names (null when unset).
+    const value::ValueArray* targetValue(const lang::LValue& target);
     std::vector<AssignStep> planAssignment(const value::ValueArray& root, const std::vector<lang::Suffix>& chain);
 
     // expressions (expressions.cpp)
@@ -97,7 +110,8 @@ private:
 
     // names, indexing and fields (postfix.cpp)
     Values evalPostfix(const lang::Expr& expr, int nargout);
-    Values evalName(const std::string& name, const lang::Expr* postfix, int nargout);
+    /// A name (an Expr of kind Name), alone or followed by the suffixes of postfix.
+    Values evalName(const lang::Expr& name, const lang::Expr* postfix, int nargout);
     Values applySuffixes(Values current, const std::vector<lang::Suffix>& suffixes, std::size_t k, int nargout);
     Values fieldValues(const value::ValueArray& v, const std::string& field);
     std::vector<values::IndexArg> evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target);
@@ -107,7 +121,7 @@ private:
     // calls (calls.cpp)
     bool isCallable(const std::string& name, const Values& args) const;
     Values callFunction(const std::string& name, const Values& args, int nargout);
-    Values callUser(const UserFunction& function, const Values& args, int nargout);
+    Values callUser(std::shared_ptr<const UserFunction> held, const Values& args, int nargout);
     Values callBuiltin(const std::string& name, const Values& args, int nargout);
     Values callNamespaceFunction(const std::string& path, const Values& args, int nargout);
 
@@ -120,7 +134,8 @@ private:
 
     Workspace base_;
     Workspace* current_;
-    std::map<std::string, UserFunction, std::less<>> functions_;
+    // held by calls while they run, so redefining a function does not free it
+    std::map<std::string, std::shared_ptr<const UserFunction>, std::less<>> functions_;
     std::vector<EndContext> endStack_;
     std::size_t callDepth_ = 0;
 };

@@ -35,14 +35,16 @@ private:
 
 Interpreter::Values Interpreter::evalPostfix(const lang::Expr& expr, int nargout) {
     const lang::Expr& base = *expr.operands[0];
-    if (base.kind == ExprKind::Name) return evalName(base.name, &expr, nargout);
+    if (base.kind == ExprKind::Name) return evalName(base, &expr, nargout);
     return applySuffixes({eval(base)}, expr.suffixes, 0, nargout);
 }
 
-Interpreter::Values Interpreter::evalName(const std::string& name, const lang::Expr* postfix, int nargout) {
+Interpreter::Values Interpreter::evalName(const lang::Expr& nameExpr, const lang::Expr* postfix, int nargout) {
     static const std::vector<lang::Suffix> none;
     const auto& suffixes = postfix != nullptr ? postfix->suffixes : none;
-    if (const ValueArray* variable = current_->find(name)) return applySuffixes({*variable}, suffixes, 0, nargout);
+    if (const ValueArray* variable = current_->at(current_->slot(nameExpr.name, nameExpr.slot)))
+        return applySuffixes({*variable}, suffixes, 0, nargout);
+    const std::string& name = nameExpr.name;
 
     // name.inner.function(args): the longest dotted path that names a namespace function
     std::string path = name;

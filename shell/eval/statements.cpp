@@ -29,7 +29,8 @@ Interpreter::~Interpreter() = default;
 
 void Interpreter::run(const lang::Program& program, const std::u16string& file, const std::u16string& frameName) {
     const StackBudget budget;
-    for (const auto& [name, def] : program.functions) functions_.insert_or_assign(name, UserFunction{def, file});
+    for (const auto& [name, def] : program.functions)
+        functions_.insert_or_assign(name, std::make_shared<const UserFunction>(def, file));
     std::optional<interp::FrameGuard> frame;
     if (!frameName.empty()) frame.emplace(interp::StackEntry{file, frameName, 0});
     execBlock(program.statements);
@@ -86,10 +87,9 @@ Interpreter::Flow Interpreter::execFor(const lang::Stmt& stmt) {
     if (range.is(ClassId::Object)) except::throwMessage(ForOverClass(text::asciiToUtf16(range.className())));
     const std::size_t rows = range.dims().rows();
     const std::size_t columns = range.isEmpty() ? 0 : range.numel() / rows;
+    const std::uint32_t slot = current_->slot(stmt.name, stmt.slot);
     for (std::size_t c = 0; c < columns; ++c) {
-        ValueArray column = values::blankLike(range, value::Dims{rows, 1});
-        for (std::size_t r = 0; r < rows; ++r) values::copyElement(column, r, range, c * rows + r);
-        current_->set(stmt.name, std::move(column));
+        current_->setAt(slot, values::columnOf(range, c));
         checkInterrupt();
         const Flow flow = execBlock(stmt.body);
         if (flow == Flow::Break) break;
@@ -143,15 +143,17 @@ Interpreter::Flow Interpreter::execTry(const lang::Stmt& stmt) {
         caught = error;
     }
     recordLastError(*caught);
-    if (!stmt.name.empty()) current_->set(stmt.name, makeExceptionObject(*caught));
+    if (!stmt.name.empty()) current_->setAt(current_->slot(stmt.name, stmt.slot), makeExceptionObject(*caught));
     return execBlock(stmt.otherwise);
 }
 
 void Interpreter::execExpression(const lang::Stmt& stmt) {
     const lang::Expr& expr = *stmt.expr;
-    if (expr.kind == lang::ExprKind::Name && current_->contains(expr.name)) {
-        if (stmt.printResult) show(expr.name, *current_->find(expr.name));
-        return;
+    if (expr.kind == lang::ExprKind::Name) {
+        if (const ValueArray* variable = current_->at(current_->slot(expr.name, expr.slot))) {
+            if (stmt.printResult) show(expr.name, *variable);
+            return;
+        }
     }
     for (auto& result : evalMulti(expr, 0)) {
         current_->set("ans", result);

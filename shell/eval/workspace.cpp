@@ -1,31 +1,76 @@
-// Workspace variables.
+// Workspace variables in slots.
 #include "shell/eval/workspace.hpp"
 
+#include <algorithm>
+#include <atomic>
+
 namespace orrery::shell::eval {
+namespace {
+
+std::uint64_t nextLayoutIdentity() {
+    static std::atomic<std::uint64_t> last{0};
+    return ++last;
+}
+
+}  // namespace
+
+SlotLayout::SlotLayout() : identity_(nextLayoutIdentity()) {}
+
+std::uint32_t SlotLayout::slotOf(std::string_view name) {
+    if (const auto found = slots_.find(name); found != slots_.end()) return found->second;
+    const auto slot = static_cast<std::uint32_t>(names_.size());
+    names_.emplace_back(name);
+    slots_.emplace(names_.back(), slot);
+    return slot;
+}
+
+std::optional<std::uint32_t> SlotLayout::find(std::string_view name) const {
+    const auto found = slots_.find(name);
+    if (found == slots_.end()) return std::nullopt;
+    return found->second;
+}
+
+Workspace::Workspace() : layout_(std::make_shared<SlotLayout>()) {}
+
+Workspace::Workspace(std::shared_ptr<SlotLayout> layout) : layout_(std::move(layout)) {}
 
 const value::ValueArray* Workspace::find(std::string_view name) const {
-    const auto found = variables_.find(name);
-    return found == variables_.end() ? nullptr : &found->second;
+    const auto slot = layout_->find(name);
+    return slot ? at(*slot) : nullptr;
 }
 
 value::ValueArray* Workspace::findMutable(std::string_view name) {
-    const auto found = variables_.find(name);
-    return found == variables_.end() ? nullptr : &found->second;
+    const auto slot = layout_->find(name);
+    return slot ? mutableAt(*slot) : nullptr;
 }
 
-void Workspace::set(std::string_view name, value::ValueArray value) {
-    variables_.insert_or_assign(std::string(name), std::move(value));
-}
+void Workspace::set(std::string_view name, value::ValueArray value) { setAt(layout_->slotOf(name), std::move(value)); }
 
 void Workspace::erase(std::string_view name) {
-    const auto found = variables_.find(name);
-    if (found != variables_.end()) variables_.erase(found);
+    const auto slot = layout_->find(name);
+    if (slot && *slot < values_.size()) values_[*slot].reset();
 }
 
 std::vector<std::string> Workspace::names() const {
     std::vector<std::string> result;
-    for (const auto& [name, value] : variables_) result.push_back(name);
+    for (std::uint32_t slot = 0; slot < values_.size(); ++slot)
+        if (values_[slot]) result.push_back(layout_->nameOf(slot));
+    std::sort(result.begin(), result.end());
     return result;
+}
+
+std::uint32_t Workspace::slot(std::string_view name, lang::SlotMemo& memo) {
+    if (memo.layout != layout_->identity()) memo = {layout_->identity(), layout_->slotOf(name)};
+    return memo.slot;
+}
+
+void Workspace::setAt(std::uint32_t slot, value::ValueArray value) {
+    if (slot >= values_.size()) values_.resize(layout_->size());
+    if (values_[slot]) {
+        *values_[slot] = std::move(value);
+    } else {
+        values_[slot].emplace(std::move(value));
+    }
 }
 
 }  // namespace orrery::shell::eval

@@ -2,19 +2,60 @@
 // prompt, or the private workspace of one function call.
 #pragma once
 
+#include "shell/lang/ast.hpp"
+
 #include <orrery/value/value_array.hpp>
 
+#include <cstdint>
 #include <functional>
-#include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace orrery::shell::eval {
 
-/// Named values. Assignment stores a shared copy (the language's value semantics).
+/// The names a workspace's variables can have, each with the slot it lives in.
+/// Every call of one function shares the function's layout, so a name that a
+/// statement resolved once is the same slot in every later call. A layout only
+/// grows; a name with a slot but no value is not a variable.
+class SlotLayout {
+public:
+    SlotLayout();
+    SlotLayout(const SlotLayout&) = delete;
+    SlotLayout& operator=(const SlotLayout&) = delete;
+
+    /// The name's slot, added when the name has none yet.
+    std::uint32_t slotOf(std::string_view name);
+    /// The name's slot, if it has one.
+    std::optional<std::uint32_t> find(std::string_view name) const;
+    const std::string& nameOf(std::uint32_t slot) const { return names_[slot]; }
+    std::size_t size() const { return names_.size(); }
+    /// Different for every layout a process makes, so that a slot remembered
+    /// together with it can never be read in another layout.
+    std::uint64_t identity() const { return identity_; }
+
+private:
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view name) const { return std::hash<std::string_view>{}(name); }
+    };
+    std::uint64_t identity_;
+    std::vector<std::string> names_;
+    std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> slots_;
+};
+
+/// Named values kept in slots. Assignment stores a shared copy (the language's
+/// value semantics).
 class Workspace {
 public:
+    /// A workspace with a layout of its own.
+    Workspace();
+    /// A workspace in a layout shared with others (the calls of one function).
+    explicit Workspace(std::shared_ptr<SlotLayout> layout);
+
     /// The variable's value, or null when there is no such variable.
     const value::ValueArray* find(std::string_view name) const;
     /// The variable's value for changing where it lies, or null.
@@ -26,8 +67,20 @@ public:
     /// Variable names in alphabetical order.
     std::vector<std::string> names() const;
 
+    /// The name's slot in this workspace's layout, taken from the memo when it
+    /// was made for this layout, else resolved (and added) and remembered.
+    std::uint32_t slot(std::string_view name, lang::SlotMemo& memo);
+    const value::ValueArray* at(std::uint32_t slot) const {
+        return slot < values_.size() && values_[slot] ? &*values_[slot] : nullptr;
+    }
+    value::ValueArray* mutableAt(std::uint32_t slot) {
+        return slot < values_.size() && values_[slot] ? &*values_[slot] : nullptr;
+    }
+    void setAt(std::uint32_t slot, value::ValueArray value);
+
 private:
-    std::map<std::string, value::ValueArray, std::less<>> variables_;
+    std::shared_ptr<SlotLayout> layout_;
+    std::vector<std::optional<value::ValueArray>> values_;
 };
 
 }  // namespace orrery::shell::eval

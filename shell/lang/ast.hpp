@@ -3,6 +3,7 @@
 
 #include "shell/lang/token.hpp"
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -40,6 +41,14 @@ enum class Op {
     Or,
     AndAnd,
     OrOr,
+};
+
+/// The workspace slot of a name, remembered by the node that names it together
+/// with the identity of the slot layout it belongs to (0: none yet). The
+/// evaluator fills it on first use; it is not part of the source's meaning.
+struct SlotMemo {
+    std::uint64_t layout = 0;
+    std::uint32_t slot = 0;
 };
 
 enum class ExprKind {
@@ -82,6 +91,7 @@ struct Expr {
     double number = 0;
     std::u16string text;
     std::string name;
+    mutable SlotMemo slot;  ///< of `name` as a variable
     Op op = Op::Plus;
     std::vector<ExprPtr> operands;
     std::vector<Suffix> suffixes;
@@ -93,6 +103,7 @@ struct LValue {
     SourcePos pos;
     bool ignored = false;
     std::string name;
+    mutable SlotMemo slot;
     std::vector<Suffix> suffixes;
 };
 
@@ -124,6 +135,7 @@ struct Stmt {
     ExprPtr expr;                       ///< value, for range, while/switch subject
     std::vector<LValue> targets;        ///< Assign (one) and MultiAssign
     std::string name;                   ///< Command name, for variable, catch variable
+    mutable SlotMemo slot;              ///< of the for or catch variable
     std::vector<std::u16string> words;  ///< Command words
     std::vector<Clause> clauses;        ///< if/elseif tests, switch cases
     Block body;                         ///< for, while and try bodies

@@ -123,6 +123,14 @@ void copyElement(ValueArray& dst, std::size_t to, const ValueArray& src, std::si
     }
 }
 
+ValueArray columnOf(const ValueArray& array, std::size_t c) {
+    const std::size_t rows = array.dims().rows();
+    if (rows == 1 && array.is(ClassId::Double)) return ValueArray::scalar(array.realAt(c));
+    ValueArray column = blankLike(array, Dims{rows, 1});
+    for (std::size_t r = 0; r < rows; ++r) copyElement(column, r, array, c * rows + r);
+    return column;
+}
+
 ValueArray convertTo(const ValueArray& v, ClassId target) {
     if (v.classId() == target) return v;
     if (target == ClassId::Cell) {

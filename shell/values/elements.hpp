@@ -39,6 +39,10 @@ value::ValueArray blankLike(const value::ValueArray& proto, value::Dims dims);
 /// dst's rounding and saturation). Struct fields missing from dst are added.
 void copyElement(value::ValueArray& dst, std::size_t to, const value::ValueArray& src, std::size_t from);
 
+/// Column c of an array as a rows-by-1 array of its class: what a for loop
+/// gives its variable in each pass.
+value::ValueArray columnOf(const value::ValueArray& array, std::size_t c);
+
 /// True for numeric, logical and char values: those that convert to numbers.
 bool isNumberLike(const value::ValueArray& v);
 

@@ -164,6 +164,12 @@ std::string_view operatorSpelling(Op op) { return nameOf(op).spelling; }
 std::string_view operatorFunction(Op op) { return nameOf(op).function; }
 
 ValueArray binaryOperation(Op op, const ValueArray& a, const ValueArray& b) {
+    // two double scalars, the commonest operands, without shapes or class rules
+    if (a.is(ClassId::Double) && b.is(ClassId::Double) && a.isScalar() && b.isScalar()) {
+        const double result = applyScalar(op, a.realAt(0), b.realAt(0));
+        const bool logicalResult = isComparison(op) || op == Op::And || op == Op::Or;
+        return logicalResult ? ValueArray::logicalScalar(result != 0) : ValueArray::scalar(result);
+    }
     if (a.is(ClassId::String) || b.is(ClassId::String)) return stringOperation(op, a, b);
     if (!isNumberLike(a) || !isNumberLike(b)) unsupported(op, a, b);
     const bool scalarOperand = a.isScalar() || b.isScalar();
