@@ -9,7 +9,7 @@
 #include <orrery/except/throw_message.hpp>
 #include <orrery/ocos/object_access.hpp>
 
-#include <deque>
+#include <forward_list>
 
 namespace orrery::shell::eval {
 
@@ -47,14 +47,14 @@ void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
         current_->setAt(slot, std::move(rhs));
         return;
     }
-    std::vector<AssignStep> steps;
+    AssignSteps steps;
     {
         // A share of the variable while its index arguments run (they may
         // change the workspace); released before the change, which then finds
         // the data unshared unless something else holds it.
         const ValueArray* existing = current_->at(slot);
         const ValueArray root = existing != nullptr ? *existing : ValueArray();
-        steps = planAssignment(root, target.suffixes);
+        planAssignment(root, target.suffixes, steps);
     }
     if (ValueArray* place = current_->mutableAt(slot)) {
         assignPlace(*place, steps, 0, std::move(rhs));
@@ -65,10 +65,9 @@ void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
     current_->setAt(slot, std::move(made));
 }
 
-std::vector<AssignStep> Interpreter::planAssignment(const ValueArray& root, const std::vector<lang::Suffix>& chain) {
-    std::vector<AssignStep> steps;
+void Interpreter::planAssignment(const ValueArray& root, const std::vector<lang::Suffix>& chain, AssignSteps& steps) {
     const ValueArray fresh;
-    std::deque<ValueArray> made;  // elements picked by parentheses and properties on the way down
+    std::forward_list<ValueArray> made;  // elements picked by parentheses and properties on the way down
     const ValueArray* node = &root;
     for (std::size_t k = 0; k < chain.size(); ++k) {
         const lang::Suffix& suffix = chain[k];
@@ -80,7 +79,7 @@ std::vector<AssignStep> Interpreter::planAssignment(const ValueArray& root, cons
             } else {
                 requireFieldHolder(*node, name);
                 if (node->is(ClassId::Object)) {
-                    if (!last) node = &made.emplace_back(ocos::getProperty(*node, 0, name));
+                    if (!last) node = &made.emplace_front(ocos::getProperty(*node, 0, name));
                 } else {
                     const ValueArray* field = node->field(0, name);
                     node = field != nullptr ? field : &fresh;
@@ -91,7 +90,9 @@ std::vector<AssignStep> Interpreter::planAssignment(const ValueArray& root, cons
         }
         const bool brace = suffix.kind == SuffixKind::Brace;
         if (brace) requireCellPlace(*node);
-        auto args = evalIndexArgs(suffix, *node);
+        AssignStep& step = steps.emplace_back(AssignStep{suffix.kind, {}, {}});
+        evalIndexArgs(suffix, *node, step.args);
+        const values::IndexArgs& args = step.args;
         if (!last) {
             const auto selection = values::selectExisting(node->dims(), args);
             if (!selection || selection->positions.size() != 1)
@@ -99,11 +100,9 @@ std::vector<AssignStep> Interpreter::planAssignment(const ValueArray& root, cons
             else if (brace)
                 node = &node->cellAt(selection->positions[0]);
             else
-                node = &made.emplace_back(values::indexValue(*node, args));
+                node = &made.emplace_front(values::indexValue(*node, args));
         }
-        steps.push_back({suffix.kind, {}, std::move(args)});
     }
-    return steps;
 }
 
 }  // namespace orrery::shell::eval

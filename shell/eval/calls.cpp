@@ -27,25 +27,25 @@ namespace {
 
 using Invoker = std::function<void(std::int32_t, value::ValueArrayPtr*, std::int32_t, const ValueArray* const*)>;
 
-std::vector<const ValueArray*> pointersTo(const std::vector<ValueArray>& args) {
-    std::vector<const ValueArray*> pointers;
-    pointers.reserve(args.size());
+using Values = boost::container::small_vector<ValueArray, 1>;
+
+boost::container::small_vector<const ValueArray*, 4> pointersTo(const Values& args) {
+    boost::container::small_vector<const ValueArray*, 4> pointers;
     for (const auto& arg : args) pointers.push_back(&arg);
     return pointers;
 }
 
 // Runs a built-in with the signature: nargout outputs requested (slot 1 is
 // offered even for none), failures reported as errors of `name`.
-std::vector<ValueArray> invoke(const std::string& name, const std::vector<ValueArray>& args, int nargout,
-                               const Invoker& function) {
-    std::vector<value::ValueArrayPtr> slots(static_cast<std::size_t>(std::max(nargout, 1)));
+Values invoke(const std::string& name, const Values& args, int nargout, const Invoker& function) {
+    boost::container::small_vector<value::ValueArrayPtr, 1> slots(static_cast<std::size_t>(std::max(nargout, 1)));
     const auto inputs = pointersTo(args);
     try {
         function(nargout, slots.data(), static_cast<std::int32_t>(inputs.size()), inputs.data());
     } catch (...) {
         rethrowAsUserError(name);  // the built-in boundary
     }
-    std::vector<ValueArray> results;
+    Values results;
     for (std::size_t i = 0; i < slots.size() && slots[i]; ++i) results.push_back(std::move(*slots[i]));
     if (static_cast<int>(results.size()) < nargout) {
         if (results.empty()) except::throwMessage(NoOutput(text::utf8ToUtf16(name)));

@@ -9,6 +9,8 @@
 
 #include <orrery/value/value_array.hpp>
 
+#include <boost/container/small_vector.hpp>
+
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -74,7 +76,8 @@ private:
     };
     class EndScope;
 
-    using Values = std::vector<value::ValueArray>;
+    /// The values an expression gives: one, nearly always, kept without a heap block.
+    using Values = boost::container::small_vector<value::ValueArray, 1>;
 
     // statements (statements.cpp)
     Flow execBlock(const lang::Block& block);
@@ -95,7 +98,8 @@ private:
     void assignTo(const lang::LValue& target, value::ValueArray rhs);
     /// The variable an assignment target names (null when unset).
     const value::ValueArray* targetValue(const lang::LValue& target);
-    std::vector<AssignStep> planAssignment(const value::ValueArray& root, const std::vector<lang::Suffix>& chain);
+    /// Fills steps (empty) with the chain's index arguments and field names.
+    void planAssignment(const value::ValueArray& root, const std::vector<lang::Suffix>& chain, AssignSteps& steps);
 
     // expressions (expressions.cpp)
     value::ValueArray eval(const lang::Expr& expr);
@@ -114,7 +118,9 @@ private:
     Values evalName(const lang::Expr& name, const lang::Expr* postfix, int nargout);
     Values applySuffixes(Values current, const std::vector<lang::Suffix>& suffixes, std::size_t k, int nargout);
     Values fieldValues(const value::ValueArray& v, const std::string& field);
-    std::vector<values::IndexArg> evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target);
+    /// Appends the suffix's index arguments, 'end' standing for target's size, to args.
+    void evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target, values::IndexArgs& args);
+    values::IndexArgs evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target);
     std::string dynamicFieldName(const lang::Suffix& suffix);
     Values evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee);
 

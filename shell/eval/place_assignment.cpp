@@ -20,7 +20,7 @@ using value::ClassId;
 using value::Dims;
 using value::ValueArray;
 
-void assignField(ValueArray& place, const std::vector<AssignStep>& steps, std::size_t k, ValueArray rhs) {
+void assignField(ValueArray& place, const AssignSteps& steps, std::size_t k, ValueArray rhs) {
     const std::string& name = steps[k].field;
     if (isFreshPlace(place) || (place.is(ClassId::Struct) && place.isEmpty())) {
         // built aside, so that a failure deeper down leaves place as it was
@@ -60,7 +60,7 @@ void requireCellPlace(const ValueArray& v) {
     if (!v.is(ClassId::Cell) && !isFreshPlace(v)) except::throwMessage(NotIndexable(text::asciiToUtf16(v.className())));
 }
 
-void assignPlace(ValueArray& place, const std::vector<AssignStep>& steps, std::size_t k, ValueArray rhs) {
+void assignPlace(ValueArray& place, const AssignSteps& steps, std::size_t k, ValueArray rhs) {
     if (k == steps.size()) {
         place = std::move(rhs);
         return;

@@ -7,6 +7,8 @@
 
 #include <orrery/value/value_array.hpp>
 
+#include <boost/container/small_vector.hpp>
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -17,8 +19,11 @@ namespace orrery::shell::eval {
 struct AssignStep {
     lang::SuffixKind kind;  // Field for static and dynamic fields alike
     std::string field;
-    std::vector<values::IndexArg> args;
+    values::IndexArgs args;
 };
+
+/// The steps of one assignment's target, outermost first.
+using AssignSteps = boost::container::small_vector<AssignStep, 1>;
 
 /// True for a value a field or brace assignment replaces: the empty double,
 /// which also stands for a place that does not exist yet.
@@ -33,6 +38,6 @@ void requireCellPlace(const value::ValueArray& v);
 
 /// Assigns rhs to steps[k..] of place. No user code runs, and place is left as
 /// it was when an error is raised.
-void assignPlace(value::ValueArray& place, const std::vector<AssignStep>& steps, std::size_t k, value::ValueArray rhs);
+void assignPlace(value::ValueArray& place, const AssignSteps& steps, std::size_t k, value::ValueArray rhs);
 
 }  // namespace orrery::shell::eval

@@ -127,19 +127,23 @@ Interpreter::Values Interpreter::fieldValues(const ValueArray& v, const std::str
     except::throwMessage(NoFields(text::asciiToUtf16(v.className()), text::utf8ToUtf16(field)));
 }
 
-std::vector<values::IndexArg> Interpreter::evalIndexArgs(const lang::Suffix& suffix, const ValueArray& target) {
-    std::vector<values::IndexArg> args;
+values::IndexArgs Interpreter::evalIndexArgs(const lang::Suffix& suffix, const ValueArray& target) {
+    values::IndexArgs args;
+    evalIndexArgs(suffix, target, args);
+    return args;
+}
+
+void Interpreter::evalIndexArgs(const lang::Suffix& suffix, const ValueArray& target, values::IndexArgs& args) {
     const std::size_t count = suffix.args.size();
     for (std::size_t k = 0; k < count; ++k) {
         const lang::Expr& arg = *suffix.args[k];
         if (arg.kind == ExprKind::Colon) {
-            args.push_back({true, ValueArray()});
+            args.emplace_back().colon = true;
             continue;
         }
         EndScope scope(*this, {&target.dims(), k, count, {}});
-        args.push_back({false, eval(arg)});
+        args.emplace_back().value = eval(arg);
     }
-    return args;
 }
 
 Interpreter::Values Interpreter::evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee) {

@@ -15,6 +15,7 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
+#include <span>
 #include <string>
 
 namespace orrery::shell::eval {
@@ -32,7 +33,7 @@ constexpr double kMostStatus = 255;
     throw ExitRequest{};  // not reached: the raiser always throws
 }
 
-int exitStatus(const std::string& name, const std::vector<value::ValueArray>& args) {
+int exitStatus(const std::string& name, std::span<const value::ValueArray> args) {
     if (args.empty()) return 0;
     if (args.size() > 1) raise(name, except::throwTooManyInputs);
     const value::ValueArray& status = args[0];
@@ -123,7 +124,7 @@ bool Interpreter::isSessionCommand(std::string_view name) {
 }
 
 Interpreter::Values Interpreter::callSessionCommand(const std::string& name, const Values& args, int nargout) {
-    if (name == "exit" || name == "quit") throw ExitRequest{exitStatus(name, args)};
+    if (name == "exit" || name == "quit") throw ExitRequest{exitStatus(name, {args.data(), args.size()})};
     if (name == "clear") {
         if (nargout > 0) raise(name, except::throwTooManyOutputs);
         if (args.empty()) {

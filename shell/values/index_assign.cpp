@@ -95,7 +95,7 @@ Target linearTarget(const ValueArray& a, const IndexArg& arg) {
     return {std::move(positions), dims};
 }
 
-Target subscriptTarget(const ValueArray& a, const std::vector<IndexArg>& args, const ValueArray& b) {
+Target subscriptTarget(const ValueArray& a, const IndexArgs& args, const ValueArray& b) {
     const std::size_t n = args.size();
     std::vector<std::vector<std::size_t>> lists;
     std::vector<std::size_t> extents;
@@ -129,7 +129,7 @@ ValueArray deleteLinear(const ValueArray& a, const IndexArg& arg) {
     return result;
 }
 
-ValueArray deleteSlices(const ValueArray& a, const std::vector<IndexArg>& args) {
+ValueArray deleteSlices(const ValueArray& a, const IndexArgs& args) {
     const std::size_t n = args.size();
     std::size_t slicing = n;
     for (std::size_t k = 0; k < n; ++k) {
@@ -159,7 +159,7 @@ ValueArray deleteSlices(const ValueArray& a, const std::vector<IndexArg>& args) 
 // an existing element or just past the end of a vector: written where it lies
 // (the data copied only when shared), with no position list or temporary.
 // False, with nothing changed, for every other assignment.
-bool assignOneElement(ValueArray& a, const std::vector<IndexArg>& args, const ValueArray& b) {
+bool assignOneElement(ValueArray& a, const IndexArgs& args, const ValueArray& b) {
     if (args.size() != 1 || args[0].colon || !b.isScalar() || b.classId() != a.classId() || !a.isNumeric())
         return false;
     const ValueArray& index = args[0].value;
@@ -177,7 +177,7 @@ bool assignOneElement(ValueArray& a, const std::vector<IndexArg>& args, const Va
 
 }  // namespace
 
-void assignIndexed(ValueArray& a, const std::vector<IndexArg>& args, const ValueArray& b) {
+void assignIndexed(ValueArray& a, const IndexArgs& args, const ValueArray& b) {
     if (assignOneElement(a, args, b)) return;
     const bool deletion = b.is(ClassId::Double) && b.dims() == Dims{0, 0};
     if (deletion) {

@@ -41,7 +41,7 @@ std::size_t endValue(const Dims& dims, std::size_t k, std::size_t n) {
     return rest;
 }
 
-Selection selectElements(const Dims& dims, const std::vector<IndexArg>& args) {
+Selection selectElements(const Dims& dims, const IndexArgs& args) {
     const std::size_t n = args.size();
     if (n == 0) {
         Selection all{std::vector<std::size_t>(dims.numel()), dims};
@@ -64,7 +64,7 @@ Selection selectElements(const Dims& dims, const std::vector<IndexArg>& args) {
     return {cartesianPositions(lists, extents), listSizes(lists)};
 }
 
-std::optional<Selection> selectExisting(const Dims& dims, const std::vector<IndexArg>& args) {
+std::optional<Selection> selectExisting(const Dims& dims, const IndexArgs& args) {
     const std::size_t n = args.size();
     for (std::size_t k = 0; k < n; ++k) {
         const std::size_t extent = n == 1 ? dims.numel() : endValue(dims, k, n);
@@ -73,7 +73,7 @@ std::optional<Selection> selectExisting(const Dims& dims, const std::vector<Inde
     return selectElements(dims, args);
 }
 
-ValueArray indexValue(const ValueArray& a, const std::vector<IndexArg>& args) {
+ValueArray indexValue(const ValueArray& a, const IndexArgs& args) {
     Selection selection = selectElements(a.dims(), args);
     ValueArray result = blankLike(a, selection.dims);
     for (std::size_t i = 0; i < selection.positions.size(); ++i) copyElement(result, i, a, selection.positions[i]);

@@ -4,6 +4,8 @@
 
 #include <orrery/value/value_array.hpp>
 
+#include <boost/container/small_vector.hpp>
+
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -15,6 +17,10 @@ struct IndexArg {
     bool colon = false;
     value::ValueArray value;
 };
+
+/// The index arguments of one pair of parentheses; one or two, nearly always,
+/// kept without a heap block.
+using IndexArgs = boost::container::small_vector<IndexArg, 2>;
 
 /// The elements an index selects (linear, 0-based) and the size of the result.
 struct Selection {
@@ -29,14 +35,14 @@ std::size_t endValue(const value::Dims& dims, std::size_t k, std::size_t n);
 /// that is not a positive integer raises "ORRERY:shell:badIndex"; one past the
 /// end "ORRERY:value:indexOutOfRange" (one argument) or
 /// "ORRERY:shell:indexBeyondDimension" (several).
-Selection selectElements(const value::Dims& dims, const std::vector<IndexArg>& args);
+Selection selectElements(const value::Dims& dims, const IndexArgs& args);
 
 /// As selectElements, but nothing (rather than an error) when an index lies
 /// past the end: the place an assignment is about to make.
-std::optional<Selection> selectExisting(const value::Dims& dims, const std::vector<IndexArg>& args);
+std::optional<Selection> selectExisting(const value::Dims& dims, const IndexArgs& args);
 
 /// a(args), for a value of any class.
-value::ValueArray indexValue(const value::ValueArray& a, const std::vector<IndexArg>& args);
+value::ValueArray indexValue(const value::ValueArray& a, const IndexArgs& args);
 
 /// a(args) = b: b is a scalar or has one element per selected place. The array
 /// grows to take indices past its end (a linear index grows vectors only); its
@@ -45,6 +51,6 @@ value::ValueArray indexValue(const value::ValueArray& a, const std::vector<Index
 /// integer). b being the empty double [] deletes the selected elements. The
 /// array changes in place (its data is copied only when shared) and is left
 /// as it was when an error is raised.
-void assignIndexed(value::ValueArray& a, const std::vector<IndexArg>& args, const value::ValueArray& b);
+void assignIndexed(value::ValueArray& a, const IndexArgs& args, const value::ValueArray& b);
 
 }  // namespace orrery::shell::values

@@ -77,14 +77,8 @@ std::string_view className(ClassId id) {
 
 // ---- special members -----------------------------------------------------------
 
-ValueArray::ValueArray() : ValueArray(ClassId::Double, Dims{0, 0}) {}
 ValueArray::ValueArray(ClassId id, Dims dims, std::shared_ptr<Data> data)
     : classId_(id), dims_(std::move(dims)), data_(std::move(data)) {}
-ValueArray::~ValueArray() = default;
-ValueArray::ValueArray(const ValueArray&) = default;
-ValueArray::ValueArray(ValueArray&&) noexcept = default;
-ValueArray& ValueArray::operator=(const ValueArray&) = default;
-ValueArray& ValueArray::operator=(ValueArray&&) noexcept = default;
 
 // ---- the element held inside ---------------------------------------------------
 
@@ -289,7 +283,7 @@ void ValueArray::resize(Dims dims) {
 
 // ---- numbers -------------------------------------------------------------------
 
-double ValueArray::realAt(std::size_t i) const {
+double ValueArray::storedRealAt(std::size_t i) const {
     checkIndex(i);
     if (!data_) return scalarReal();
     if (classId_ == ClassId::Logical) return std::get<LogicalStore>(data_->store).values[i];

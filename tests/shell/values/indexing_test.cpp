@@ -15,7 +15,7 @@ using orrery::value::ValueArray;
 
 namespace {
 
-using Args = std::vector<IndexArg>;
+using Args = orrery::shell::values::IndexArgs;
 
 // 2-by-3, column-major 1..6: [1 3 5; 2 4 6].
 ValueArray matrix() { return doubles(Dims{2, 3}, {1, 2, 3, 4, 5, 6}); }

@@ -30,12 +30,13 @@ namespace orrery::value {
 class ORRERY_API ValueArray {
 public:
     /// A 0-by-0 double array.
-    ValueArray();
-    ~ValueArray();
-    ValueArray(const ValueArray&);
-    ValueArray(ValueArray&&) noexcept;
-    ValueArray& operator=(const ValueArray&);
-    ValueArray& operator=(ValueArray&&) noexcept;
+    ValueArray() noexcept : ValueArray(ClassId::Double, Dims()) {}
+    // Inline, so that copying and dropping a value held inside costs no call.
+    ~ValueArray() = default;
+    ValueArray(const ValueArray&) = default;
+    ValueArray(ValueArray&&) noexcept = default;
+    ValueArray& operator=(const ValueArray&) = default;
+    ValueArray& operator=(ValueArray&&) noexcept = default;
 
     // ---- construction -------------------------------------------------------
     /// An array of a numeric class, logical or char, filled with zeros.
@@ -84,7 +85,10 @@ public:
 
     // ---- numbers, logicals and chars ------------------------------------------
     /// Element i of a numeric, logical or char array as a double.
-    double realAt(std::size_t i) const;
+    double realAt(std::size_t i) const {
+        if (classId_ == ClassId::Double && !data_ && i == 0 && dims_.numel() == 1) return scalar_.f64;
+        return storedRealAt(i);
+    }
     void setRealAt(std::size_t i, double value);
     /// Direct typed access; T must match the class (double, float, intN_t, uintN_t).
     template <class T>
@@ -176,6 +180,8 @@ private:
     template <class T>
     T* scalarOf() noexcept;
     double scalarReal() const noexcept;
+    /// realAt for every case but a double scalar held inside.
+    double storedRealAt(std::size_t i) const;
     void setScalarReal(double value) noexcept;
     void checkIndex(std::size_t i) const;
     void requireClass(ClassId id) const;
