@@ -83,7 +83,7 @@ private:
 Interpreter::UserFunction::UserFunction(std::shared_ptr<const lang::FunctionDef> definition, std::u16string fileName)
     : def(std::move(definition)),
       file(std::move(fileName)),
-      name(text::utf8ToUtf16(def->name)),
+      frame{file, text::utf8ToUtf16(def->name), def->pos.line},
       layout(std::make_shared<SlotLayout>()) {
     for (const auto& input : def->inputs) inputSlots.push_back(layout->slotOf(input));
     narginSlot = layout->slotOf("nargin");
@@ -91,22 +91,30 @@ Interpreter::UserFunction::UserFunction(std::shared_ptr<const lang::FunctionDef>
     for (const auto& output : def->outputs) outputSlots.push_back(layout->slotOf(output));
 }
 
-bool Interpreter::isCallable(const std::string& name, const Values& args) const {
-    if (functions_.contains(name) || interp::isFunction(name) || isSessionCommand(name)) return true;
+Interpreter::Callee Interpreter::findCallee(const std::string& name, const Values& args) const {
+    if (isSessionCommand(name)) return {Callee::Kind::SessionCommand, nullptr};
     const auto inputs = pointersTo(args);
-    return ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
+    if (ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()))
+        return {Callee::Kind::Method, nullptr};
+    if (const auto found = functions_.find(name); found != functions_.end())
+        return {Callee::Kind::Script, found->second};
+    if (interp::isFunction(name)) return {Callee::Kind::Registered, nullptr};
+    return {};
+}
+
+Interpreter::Values Interpreter::call(const Callee& callee, const std::string& name, const Values& args, int nargout) {
+    switch (callee.kind) {
+        case Callee::Kind::SessionCommand: return callSessionCommand(name, args, nargout);
+        case Callee::Kind::Script: return callUser(*callee.script, args, nargout);
+        case Callee::Kind::Method:
+        case Callee::Kind::Registered: return callBuiltin(name, args, nargout);
+        case Callee::Kind::None: break;
+    }
+    except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));
 }
 
 Interpreter::Values Interpreter::callFunction(const std::string& name, const Values& args, int nargout) {
-    if (isSessionCommand(name)) return callSessionCommand(name, args, nargout);
-    const auto inputs = pointersTo(args);
-    const bool method = ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()) != nullptr;
-    if (!method) {
-        if (const auto found = functions_.find(name); found != functions_.end())
-            return callUser(found->second, args, nargout);
-    }
-    if (method || interp::isFunction(name)) return callBuiltin(name, args, nargout);
-    except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));
+    return call(findCallee(name, args), name, args, nargout);
 }
 
 Interpreter::Values Interpreter::callBuiltin(const std::string& name, const Values& args, int nargout) {
@@ -123,8 +131,7 @@ Interpreter::Values Interpreter::callNamespaceFunction(const std::string& path, 
         });
 }
 
-Interpreter::Values Interpreter::callUser(std::shared_ptr<const UserFunction> held, const Values& args, int nargout) {
-    const UserFunction& function = *held;
+Interpreter::Values Interpreter::callUser(const UserFunction& function, const Values& args, int nargout) {
     const lang::FunctionDef& def = *function.def;
     if (args.size() > def.inputs.size()) raiseArgumentError(def.name, except::throwTooManyInputs);
     if (static_cast<std::size_t>(nargout) > def.outputs.size())
@@ -140,16 +147,20 @@ Interpreter::Values Interpreter::callUser(std::shared_ptr<const UserFunction> he
     {
         const Restore<Workspace*> workspace(current_, &local);
         const Restore<std::size_t> depth(callDepth_, callDepth_ + 1);
-        const interp::FrameGuard frame({function.file, function.name, def.pos.line});
+        const interp::FrameGuard frame(function.frame);
         execBlock(def.body);
     }
 
     Values results;
     const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(nargout, 1)), def.outputs.size());
     for (std::size_t i = 0; i < wanted; ++i) {
-        const ValueArray* output = local.at(function.outputSlots[i]);
+        const std::uint32_t slot = function.outputSlots[i];
+        ValueArray* output = local.mutableAt(slot);
         if (output != nullptr) {
-            results.push_back(*output);
+            // the workspace ends here: a value no later output names is moved out
+            const auto later = function.outputSlots.begin() + static_cast<std::ptrdiff_t>(i) + 1;
+            const bool lastUse = std::find(later, function.outputSlots.end(), slot) == function.outputSlots.end();
+            results.push_back(lastUse ? std::move(*output) : *output);
         } else if (static_cast<int>(i) < nargout) {
             except::throwMessage(OutputNotSet(text::utf8ToUtf16(def.outputs[i]), text::utf8ToUtf16(def.name)));
         } else {

@@ -12,6 +12,8 @@
 #include <orrery/ocos/dispatch.hpp>
 #include <orrery/text/text.hpp>
 
+#include <boost/container/small_vector.hpp>
+
 namespace orrery::shell::eval {
 
 using lang::ExprKind;
@@ -62,7 +64,7 @@ Interpreter::Values Interpreter::evalMulti(const lang::Expr& expr, int nargout) 
 // A chain of binary operators (a + b - c, each the left operand of the next) is
 // walked as a loop from its innermost operator out: its length costs no stack.
 ValueArray Interpreter::evalBinary(const lang::Expr& expr) {
-    std::vector<const lang::Expr*> chain{&expr};
+    boost::container::small_vector<const lang::Expr*, 8> chain{&expr};
     while (chain.back()->operands[0]->kind == ExprKind::Binary) chain.push_back(chain.back()->operands[0].get());
     ValueArray left = eval(*chain.back()->operands[0]);
     for (auto node = chain.rbegin(); node != chain.rend(); ++node) {

@@ -7,6 +7,7 @@
 #include "shell/lang/ast.hpp"
 #include "shell/values/indexing.hpp"
 
+#include <orrery/interp/call_stack.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <boost/container/small_vector.hpp>
@@ -53,13 +54,13 @@ private:
     enum class Flow { Normal, Break, Continue, Return };
 
     /// A script function with what every call of it needs made once: its
-    /// frame's texts and the slots of its inputs, outputs, nargin and nargout
+    /// call-stack frame and the slots of its inputs, outputs, nargin and nargout
     /// in the layout all its calls' workspaces share.
     struct UserFunction {
         UserFunction(std::shared_ptr<const lang::FunctionDef> definition, std::u16string fileName);
         std::shared_ptr<const lang::FunctionDef> def;
         std::u16string file;
-        std::u16string name;
+        interp::StackEntry frame;
         std::shared_ptr<SlotLayout> layout;
         std::vector<std::uint32_t> inputSlots;
         std::vector<std::uint32_t> outputSlots;
@@ -122,12 +123,21 @@ private:
     void evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target, values::IndexArgs& args);
     values::IndexArgs evalIndexArgs(const lang::Suffix& suffix, const value::ValueArray& target);
     std::string dynamicFieldName(const lang::Suffix& suffix);
-    Values evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee);
+    /// Appends the values of a call's arguments to values.
+    void evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee, Values& values);
+
+    /// What a call by name runs, looked for in this order.
+    struct Callee {
+        enum class Kind { None, SessionCommand, Method, Script, Registered } kind = Kind::None;
+        std::shared_ptr<const UserFunction> script;
+    };
 
     // calls (calls.cpp)
-    bool isCallable(const std::string& name, const Values& args) const;
+    Callee findCallee(const std::string& name, const Values& args) const;
+    Values call(const Callee& callee, const std::string& name, const Values& args, int nargout);
     Values callFunction(const std::string& name, const Values& args, int nargout);
-    Values callUser(std::shared_ptr<const UserFunction> held, const Values& args, int nargout);
+    /// Runs a script function; the caller holds it while it runs.
+    Values callUser(const UserFunction& function, const Values& args, int nargout);
     Values callBuiltin(const std::string& name, const Values& args, int nargout);
     Values callNamespaceFunction(const std::string& path, const Values& args, int nargout);
 

@@ -42,34 +42,32 @@ Interpreter::Values Interpreter::evalPostfix(const lang::Expr& expr, int nargout
 Interpreter::Values Interpreter::evalName(const lang::Expr& nameExpr, const lang::Expr* postfix, int nargout) {
     static const std::vector<lang::Suffix> none;
     const auto& suffixes = postfix != nullptr ? postfix->suffixes : none;
-    if (const ValueArray* variable = current_->at(current_->slot(nameExpr.name, nameExpr.slot)))
+    if (const ValueArray* variable = current_->at(current_->slot(nameExpr.name, nameExpr.slot))) {
+        if (suffixes.empty()) return {*variable};
         return applySuffixes({*variable}, suffixes, 0, nargout);
+    }
     const std::string& name = nameExpr.name;
 
     // name.inner.function(args): the longest dotted path that names a namespace function
-    std::string path = name;
     std::string found;
-    std::size_t consumed = 0;
-    for (std::size_t k = 0; k < suffixes.size() && suffixes[k].kind == SuffixKind::Field; ++k) {
-        path += "." + suffixes[k].field;
-        if (ocos::findFunction(path)) {
-            found = path;
-            consumed = k + 1;
+    std::size_t k = 0;
+    if (!suffixes.empty() && suffixes[0].kind == SuffixKind::Field) {
+        std::string path = name;
+        for (std::size_t step = 0; step < suffixes.size() && suffixes[step].kind == SuffixKind::Field; ++step) {
+            path += "." + suffixes[step].field;
+            if (ocos::findFunction(path)) {
+                found = path;
+                k = step + 1;
+            }
         }
     }
-    std::size_t k = consumed;
     Values args;
-    const std::string callee = found.empty() ? name : found;
-    if (k < suffixes.size() && suffixes[k].kind == SuffixKind::Paren) args = evalArguments(suffixes[k++].args, callee);
+    if (k < suffixes.size() && suffixes[k].kind == SuffixKind::Paren)
+        evalArguments(suffixes[k++].args, found.empty() ? name : found, args);
     const int wanted = k < suffixes.size() ? 1 : nargout;
-    Values results;
-    if (!found.empty()) {
-        results = callNamespaceFunction(found, args, wanted);
-    } else if (isCallable(name, args)) {
-        results = callFunction(name, args, wanted);
-    } else {
-        except::throwMessage(except::host::UndefinedFunction(text::utf8ToUtf16(name)));
-    }
+    Values results =
+        found.empty() ? call(findCallee(name, args), name, args, wanted) : callNamespaceFunction(found, args, wanted);
+    if (k == suffixes.size()) return results;
     return applySuffixes(std::move(results), suffixes, k, nargout);
 }
 
@@ -103,7 +101,7 @@ Interpreter::Values Interpreter::applySuffixes(Values current, const std::vector
         // obj.method(args) calls the class's method with the object first
         Values args{v};
         if (k + 1 < suffixes.size() && suffixes[k + 1].kind == SuffixKind::Paren) {
-            for (auto& arg : evalArguments(suffixes[++k].args, field)) args.push_back(std::move(arg));
+            evalArguments(suffixes[++k].args, field, args);
         }
         current = callFunction(field, args, k + 1 < suffixes.size() ? 1 : nargout);
     }
@@ -146,13 +144,15 @@ void Interpreter::evalIndexArgs(const lang::Suffix& suffix, const ValueArray& ta
     }
 }
 
-Interpreter::Values Interpreter::evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee) {
-    Values values;
+void Interpreter::evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee, Values& values) {
     EndScope scope(*this, {nullptr, 0, 0, callee});
     for (const auto& arg : args) {
+        if (arg->kind != ExprKind::Name && arg->kind != ExprKind::Postfix) {
+            values.push_back(eval(*arg));  // one value, without a list
+            continue;
+        }
         for (auto& v : evalMulti(*arg, 1)) values.push_back(std::move(v));
     }
-    return values;
 }
 
 std::string Interpreter::dynamicFieldName(const lang::Suffix& suffix) {

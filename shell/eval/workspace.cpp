@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <new>
 
 namespace orrery::shell::eval {
 namespace {
@@ -30,9 +31,31 @@ std::optional<std::uint32_t> SlotLayout::find(std::string_view name) const {
     return found->second;
 }
 
+SlotLayout::Storage SlotLayout::takeStorage() {
+    if (spare_.empty()) return {};
+    Storage storage = std::move(spare_.back());
+    spare_.pop_back();
+    return storage;
+}
+
+void SlotLayout::giveBack(Storage storage) noexcept {
+    // a few kept are enough for calls in a loop; deep recursion keeps no more
+    constexpr std::size_t kMostSpare = 8;
+    if (spare_.size() >= kMostSpare) return;
+    storage.clear();
+    try {
+        spare_.push_back(std::move(storage));
+    } catch (const std::bad_alloc&) {
+        // kept nowhere: the next call allocates its own
+    }
+}
+
 Workspace::Workspace() : layout_(std::make_shared<SlotLayout>()) {}
 
-Workspace::Workspace(std::shared_ptr<SlotLayout> layout) : layout_(std::move(layout)) {}
+Workspace::Workspace(std::shared_ptr<SlotLayout> layout)
+    : layout_(std::move(layout)), values_(layout_->takeStorage()) {}
+
+Workspace::~Workspace() { layout_->giveBack(std::move(values_)); }
 
 const value::ValueArray* Workspace::find(std::string_view name) const {
     const auto slot = layout_->find(name);
@@ -64,13 +87,9 @@ std::uint32_t Workspace::slot(std::string_view name, lang::SlotMemo& memo) {
     return memo.slot;
 }
 
-void Workspace::setAt(std::uint32_t slot, value::ValueArray value) {
+void Workspace::setNew(std::uint32_t slot, value::ValueArray value) {
     if (slot >= values_.size()) values_.resize(layout_->size());
-    if (values_[slot]) {
-        *values_[slot] = std::move(value);
-    } else {
-        values_[slot].emplace(std::move(value));
-    }
+    values_[slot].emplace(std::move(value));
 }
 
 }  // namespace orrery::shell::eval

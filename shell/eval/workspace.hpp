@@ -37,6 +37,12 @@ public:
     /// together with it can never be read in another layout.
     std::uint64_t identity() const { return identity_; }
 
+    using Storage = std::vector<std::optional<value::ValueArray>>;
+    /// Slot storage left by an ended workspace of this layout, empty but with
+    /// its capacity, or a new one: a function call does not allocate its slots.
+    Storage takeStorage();
+    void giveBack(Storage storage) noexcept;
+
 private:
     struct Hash {
         using is_transparent = void;
@@ -45,6 +51,7 @@ private:
     std::uint64_t identity_;
     std::vector<std::string> names_;
     std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> slots_;
+    std::vector<Storage> spare_;
 };
 
 /// Named values kept in slots. Assignment stores a shared copy (the language's
@@ -55,6 +62,9 @@ public:
     Workspace();
     /// A workspace in a layout shared with others (the calls of one function).
     explicit Workspace(std::shared_ptr<SlotLayout> layout);
+    ~Workspace();
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
 
     /// The variable's value, or null when there is no such variable.
     const value::ValueArray* find(std::string_view name) const;
@@ -76,11 +86,19 @@ public:
     value::ValueArray* mutableAt(std::uint32_t slot) {
         return slot < values_.size() && values_[slot] ? &*values_[slot] : nullptr;
     }
-    void setAt(std::uint32_t slot, value::ValueArray value);
+    void setAt(std::uint32_t slot, value::ValueArray value) {
+        if (slot < values_.size() && values_[slot]) {
+            *values_[slot] = std::move(value);
+            return;
+        }
+        setNew(slot, std::move(value));
+    }
 
 private:
+    void setNew(std::uint32_t slot, value::ValueArray value);
+
     std::shared_ptr<SlotLayout> layout_;
-    std::vector<std::optional<value::ValueArray>> values_;
+    SlotLayout::Storage values_;
 };
 
 }  // namespace orrery::shell::eval

@@ -209,3 +209,38 @@ TEST_F(InterpreterTest, NestingTooDeepForTheStackIsAnError) {
     EXPECT_EQ(userErrorOf([&] { run(program); }).identifier(), "ORRERY:shell:tooDeepToRun");
     EXPECT_TRUE(interp::currentFrames().empty());
 }
+
+// Each name node remembers its variable's slot in the layout it last ran in:
+// recursive calls share one layout but never one another's values, a node run
+// in another interpreter's workspace (another layout) finds that workspace's
+// own slot, a cleared variable is no variable, and a function's outputs are
+// moved out only once each.
+TEST_F(InterpreterTest, VariablesKeepTheirSlotsApart) {
+    static const std::pair<const char*, const char*> cases[] = {
+        {"function r = depth(n)\n  own = n;\n  if n > 0\n    r = own + depth(n - 1);\n  else\n    r = own;\n"
+         "  end\nend\nx = depth(4)",
+         "x = 10\n"},
+        {"function [a, b] = pair()\n  a = 3;\n  b = a;\nend\n[p, q] = pair()", "p = 3\nq = 3\n"},
+        {"zeros = 7; a = zeros, clear zeros; b = zeros(1, 2)", "a = 7\nb =\n    0   0\n"},
+    };
+    for (const auto& [source, expected] : cases) {
+        SCOPED_TRACE(source);
+        EXPECT_EQ(run(source), expected);
+    }
+
+    const auto program = shell::lang::parse("x = y + 1", u"shared.orr");
+    shell::eval::Interpreter other;
+    other.baseWorkspace().set("unrelated", ValueArray::scalar(0));
+    other.baseWorkspace().set("x", ValueArray::scalar(0));
+    other.baseWorkspace().set("y", ValueArray::scalar(10));
+    interpreter_.baseWorkspace().set("y", ValueArray::scalar(1));
+    for (int round = 0; round < 2; ++round) {
+        console_.clear();
+        interpreter_.run(program, u"shared.orr", u"");
+        EXPECT_EQ(console_.output(), "x = 2\n");
+        console_.clear();
+        other.run(program, u"shared.orr", u"");
+        EXPECT_EQ(console_.output(), "x = 11\n");
+    }
+    EXPECT_EQ(other.baseWorkspace().find("unrelated")->realAt(0), 0);
+}

@@ -13,12 +13,22 @@ CallStack* currentCallStack() noexcept {
 
 }  // namespace
 
-FrameGuard::FrameGuard(StackEntry entry) : stack_(currentCallStack()) {
-    if (stack_ != nullptr) stack_->push_back(std::move(entry));
+void CallStack::push(std::u16string_view file, std::u16string_view name, std::uint32_t line) {
+    if (depth_ == frames_.size()) frames_.emplace_back();
+    StackEntry& frame = frames_[depth_];
+    // the same function entered again at this depth finds its texts in place
+    if (frame.file != file) frame.file.assign(file);
+    if (frame.name != name) frame.name.assign(name);
+    frame.line = line;
+    ++depth_;
+}
+
+FrameGuard::FrameGuard(const StackEntry& entry) : stack_(currentCallStack()) {
+    if (stack_ != nullptr) stack_->push(entry.file, entry.name, entry.line);
 }
 
 FrameGuard::~FrameGuard() {
-    if (stack_ != nullptr) stack_->pop_back();
+    if (stack_ != nullptr) stack_->pop();
 }
 
 void setCurrentLine(std::uint32_t line) {
@@ -29,7 +39,10 @@ void setCurrentLine(std::uint32_t line) {
 std::vector<StackEntry> currentFrames() {
     const CallStack* stack = currentCallStack();
     if (stack == nullptr) return {};
-    return {stack->rbegin(), stack->rend()};
+    std::vector<StackEntry> frames;
+    frames.reserve(stack->size());
+    for (std::size_t i = stack->size(); i-- > 0;) frames.push_back((*stack)[i]);
+    return frames;
 }
 
 value::ValueArray currentStack(std::size_t skip) {

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orrery::interp {
@@ -18,15 +19,29 @@ struct StackEntry {
     std::uint32_t line = 0;
 };
 
-/// A virtual machine's frames, outermost first.
-using CallStack = std::vector<StackEntry>;
+/// A virtual machine's frames, outermost first. A frame that is left keeps its
+/// texts' storage for the next one at its depth, so entering a function again
+/// and again does not allocate.
+class ORRERY_API CallStack {
+public:
+    void push(std::u16string_view file, std::u16string_view name, std::uint32_t line);
+    void pop() noexcept { --depth_; }
+    std::size_t size() const noexcept { return depth_; }
+    bool empty() const noexcept { return depth_ == 0; }
+    StackEntry& back() noexcept { return frames_[depth_ - 1]; }
+    const StackEntry& operator[](std::size_t i) const noexcept { return frames_[i]; }
+
+private:
+    std::vector<StackEntry> frames_;  // the first depth_ are the stack
+    std::size_t depth_ = 0;
+};
 
 /// Pushes a frame on the current machine's call stack on construction and pops
 /// it from that same stack on destruction; does nothing without a machine. The
 /// guard must end before the machine it pushed on.
 class ORRERY_API FrameGuard {
 public:
-    explicit FrameGuard(StackEntry entry);
+    explicit FrameGuard(const StackEntry& entry);
     ~FrameGuard();
     FrameGuard(const FrameGuard&) = delete;
     FrameGuard& operator=(const FrameGuard&) = delete;
