@@ -29,13 +29,21 @@ std::string_view unaryFunction(Op op) { return op == Op::Minus ? "uminus" : op =
 }  // namespace
 
 ValueArray Interpreter::eval(const lang::Expr& expr) {
-    StackBudget::check();
+    // leaves first: they evaluate nothing below them, so need no stack check
     switch (expr.kind) {
         case ExprKind::Number: return ValueArray::scalar(expr.number);
         case ExprKind::CharText: return ValueArray::chars(expr.text);
         case ExprKind::StringText: return ValueArray::string(expr.text);
         case ExprKind::Colon: return ValueArray::chars(u":");
         case ExprKind::EndIndex: return evalEnd(expr);
+        case ExprKind::Name:
+            // a variable's value straight from the workspace, without a list of results
+            if (const ValueArray* variable = current_->at(current_->slot(expr.name, expr.slot))) return *variable;
+            break;
+        default: break;
+    }
+    StackBudget::check();
+    switch (expr.kind) {
         case ExprKind::Unary: return applyOperator(expr.op, eval(*expr.operands[0]), nullptr);
         case ExprKind::Binary: return evalBinary(expr);
         case ExprKind::Range: return evalRange(expr);
@@ -43,14 +51,12 @@ ValueArray Interpreter::eval(const lang::Expr& expr) {
         case ExprKind::Matrix:
         case ExprKind::CellArray: return evalBracketed(expr);
         case ExprKind::Name:
-            // a variable's value straight from the workspace, without a list of results
-            if (const ValueArray* variable = current_->at(current_->slot(expr.name, expr.slot))) return *variable;
-            [[fallthrough]];
         case ExprKind::Postfix: {
             Values results = evalMulti(expr, 1);
             if (results.empty()) except::throwMessage(NoValue());
             return std::move(results.front());
         }
+        default: break;
     }
     except::throwMessage(NoValue());
 }

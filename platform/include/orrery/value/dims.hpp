@@ -68,7 +68,8 @@ private:
             std::copy(sizes, sizes + kept, more_.get());
         } else {
             more_.reset();
-            std::copy(sizes, sizes + std::min(kept, kInline), inline_);
+            // a fixed-length copy, so that copying a value's size calls nothing
+            for (std::size_t i = 0; i < kInline; ++i) inline_[i] = i < kept ? sizes[i] : 0;
         }
         if (kept == 0) inline_[0] = 0;
         if (kept < 2) inline_[1] = kept == 0 ? 0 : 1;
