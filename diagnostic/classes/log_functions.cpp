@@ -6,7 +6,7 @@
 #include "diagnostic/log/issue_warning.hpp"
 #include "diagnostic/log/warning_log_reader.hpp"
 #include "diagnostic/log/warning_log_summary.hpp"
-#include "diagnostic/record/convert_moved_warnings.hpp"
+#include "diagnostic/record/warning_row_builder.hpp"
 
 #include <orrery/except/internal_error.hpp>
 #include <orrery/warning/warning_log.hpp>
@@ -50,8 +50,11 @@ LoadLogMI::LoadLogMI() : WarningBaseMI("load") {
 void LoadLogMI::invoke(std::int32_t /*nlhs*/, value::ValueArrayPtr* plhs, std::int32_t /*nrhs*/,
                        const value::ValueArray* const* prhs) const {
     const std::u16string fileName = prhs[0]->text();
-    // The reader raises before anything is made, so a failure leaves no array.
-    plhs[0] = convertWarningsToValueArray(readWarningLog(fileName));
+    // Each record is read straight into its object; a failure drops the objects
+    // made so far and leaves no array.
+    WarningRowBuilder row;
+    readWarningLog(fileName, [&row]() -> Warning& { return row.add(); });
+    plhs[0] = row.finish();
 }
 
 SummaryLogMI::SummaryLogMI() : WarningBaseMI("summary") {

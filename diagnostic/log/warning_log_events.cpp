@@ -67,8 +67,9 @@ void checkNoAttributes(const XML_Char* name, const XML_Char** attributes) { chec
 
 }  // namespace
 
-WarningLogEvents::WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset, WarningHeadVisitor visitHead)
-    : scanOnly_(scanOnly), localOffset_(localOffset), visitHead_(std::move(visitHead)) {}
+WarningLogEvents::WarningLogEvents(interp::UtcOffset localOffset, WarningRecordStore store,
+                                   WarningHeadVisitor visitHead)
+    : scanOnly_(!store), localOffset_(localOffset), store_(std::move(store)), visitHead_(std::move(visitHead)) {}
 
 // ---- element start ------------------------------------------------------------------
 
@@ -127,10 +128,10 @@ void WarningLogEvents::startWarning(const XML_Char** values) {
         if (visitHead_) visitHead_(identifier, wasDisabled == "true", readLogTime(values[1], localOffset_));
         return;
     }
-    Warning& record = warnings_.emplace_back();
-    record.setIdentifier(std::string(identifier));
-    record.setWasDisabled(wasDisabled == "true");
-    record.setTime(readLogTime(values[1], localOffset_));
+    record_ = &store_();
+    record_->setIdentifier(std::string(identifier));
+    record_->setWasDisabled(wasDisabled == "true");
+    record_->setTime(readLogTime(values[1], localOffset_));
 }
 
 void WarningLogEvents::startArg(const XML_Char* type) {
@@ -177,9 +178,9 @@ void WarningLogEvents::endElement(const XML_Char* name, std::uint64_t byteIndex)
             if (!scanOnly_) {
                 std::u16string value = unescapeLogText(std::move(text_));
                 if (element == LogElement::message)
-                    warnings_.back().setMessage(std::move(value));
+                    record_->setMessage(std::move(value));
                 else
-                    warnings_.back().setFormat(std::move(value));
+                    record_->setFormat(std::move(value));
             }
             break;
         case LogElement::arg:
@@ -194,9 +195,8 @@ void WarningLogEvents::endElement(const XML_Char* name, std::uint64_t byteIndex)
 
 // Arguments and frames are gathered on the side and given to the record when it ends.
 void WarningLogEvents::endWarning() {
-    Warning& record = warnings_.back();
-    record.setArguments(std::move(pendingArguments_));
-    record.setStack(std::move(pendingFrames_));
+    record_->setArguments(std::move(pendingArguments_));
+    record_->setStack(std::move(pendingFrames_));
     pendingArguments_.clear();
     pendingFrames_.clear();
 }

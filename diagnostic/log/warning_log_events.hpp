@@ -20,18 +20,24 @@ namespace orrery::lang::diagnostic {
 /// What a summary reads of each warning: identifier, wasDisabled and time.
 using WarningHeadVisitor = std::function<void(std::string_view identifier, bool wasDisabled, double time)>;
 
+/// Where a read builds its records: called as each "warning" element starts, in
+/// file order, it answers a new empty record that the reader fills in place
+/// until the element ends; the reference must stay valid until the next call.
+using WarningRecordStore = std::function<Warning&()>;
+
 /// Checks the nesting log, warning, leaf ("message", "format", "arg", "frame")
-/// and every attribute and text, and builds one record per "warning" element.
-/// In scan-only mode it checks the structure, identifiers, wasDisabled values,
-/// argument types and frames, but builds nothing and reads no times; given a
-/// visitor, it reads each warning's time too and hands the visitor the warning's
-/// head (a summary that needs no texts, arguments or frames). Every
-/// failure is raised as its "ORRERY:warning:XMLParser" identifier (or
+/// and every attribute and text. Given a store, it builds one record per
+/// "warning" element in the store and keeps none itself. Without one
+/// (scan-only) it checks the structure, identifiers, wasDisabled
+/// values, argument types and frames, but builds nothing and reads no times;
+/// given a visitor then, it reads each warning's time too and hands the visitor
+/// the warning's head (a summary that needs no texts, arguments or frames).
+/// Every failure is raised as its "ORRERY:warning:XMLParser" identifier (or
 /// boost::bad_lexical_cast for an argument text); the machine is then spent.
 class WarningLogEvents {
 public:
     /// localOffset: the reader's offset from UTC, to which times are moved.
-    WarningLogEvents(bool scanOnly, interp::UtcOffset localOffset, WarningHeadVisitor visitHead = {});
+    WarningLogEvents(interp::UtcOffset localOffset, WarningRecordStore store, WarningHeadVisitor visitHead = {});
 
     /// An element starts: its name and Expat's null-terminated attribute list.
     void startElement(const XML_Char* name, const XML_Char** attributes);
@@ -40,8 +46,6 @@ public:
     /// A run of character data (UTF-8).
     void characterData(std::string_view utf8);
 
-    /// The records built so far, in file order (none in scan-only mode).
-    std::vector<Warning>& warnings() noexcept { return warnings_; }
     /// The offset of the closing "log" tag; 0 until it has been seen.
     std::uint64_t logEnd() const noexcept { return logEnd_; }
 
@@ -55,8 +59,9 @@ private:
 
     bool scanOnly_;
     interp::UtcOffset localOffset_;
+    WarningRecordStore store_;
     WarningHeadVisitor visitHead_;
-    std::vector<Warning> warnings_;
+    Warning* record_ = nullptr;
     std::vector<PrintfArgument> pendingArguments_;
     std::vector<StackFrame> pendingFrames_;
     std::u16string text_;

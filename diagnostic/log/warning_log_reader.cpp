@@ -37,17 +37,18 @@ constexpr std::size_t kReadAhead = std::size_t{64} * 1024;
 // stopped, and the failure raised again once Expat has returned.
 class WarningLogReader {
 public:
-    WarningLogReader(const LogFileDescriptor& file, std::u16string fileName, bool scanOnly,
+    /// Builds records in the store, or only scans without one (visitHead then
+    /// receiving each warning's head when given).
+    WarningLogReader(const LogFileDescriptor& file, std::u16string fileName, const WarningRecordStore& store,
                      WarningHeadVisitor visitHead = {})
         : file_(file),
           fileName_(std::move(fileName)),
           parser_(makeExpatParser()),
-          events_(scanOnly, scanOnly && !visitHead ? interp::UtcOffset{} : interp::localUtcOffset(),
-                  std::move(visitHead)) {
+          events_(!store && !visitHead ? interp::UtcOffset{} : interp::localUtcOffset(), store, std::move(visitHead)) {
         XML_SetUserData(parser_.get(), this);
         XML_SetElementHandler(parser_.get(), &WarningLogReader::onStart, &WarningLogReader::onEnd);
         XML_SetXmlDeclHandler(parser_.get(), &WarningLogReader::onDeclaration);
-        if (!scanOnly) XML_SetCharacterDataHandler(parser_.get(), &WarningLogReader::onCharacterData);
+        if (store) XML_SetCharacterDataHandler(parser_.get(), &WarningLogReader::onCharacterData);
     }
 
     /// Feeds the whole file to the parser, in blocks of kBlockSize bytes. Expat
@@ -76,7 +77,7 @@ public:
         }
     }
 
-    WarningLogEvents& events() noexcept { return events_; }
+    const WarningLogEvents& events() const noexcept { return events_; }
     const std::string& declaredEncoding() const noexcept { return declaredEncoding_; }
 
 private:
@@ -174,21 +175,30 @@ LogFileDescriptor openForReading(const std::u16string& path) {
     return file;
 }
 
+void readRecords(const std::u16string& path, const WarningRecordStore& store) {
+    const LogFileDescriptor file = openForReading(path);
+    WarningLogReader reader(file, path, store);
+    reader.read();
+}
+
 }  // namespace
 
 std::vector<Warning> readWarningLogFile(const std::u16string& path) {
-    const LogFileDescriptor file = openForReading(path);
-    WarningLogReader reader(file, path, false);
-    reader.read();
-    return std::move(reader.events().warnings());
+    std::vector<Warning> records;
+    readRecords(path, [&records]() -> Warning& { return records.emplace_back(); });
+    return records;
 }
 
 std::vector<Warning> readWarningLog(const std::u16string& fileName) {
     return readWarningLogFile(normaliseLogFileName(fileName));
 }
 
+void readWarningLog(const std::u16string& fileName, const WarningRecordStore& store) {
+    readRecords(normaliseLogFileName(fileName), store);
+}
+
 LogScan scanLog(const LogFileDescriptor& file, const std::u16string& path) {
-    WarningLogReader reader(file, path, true);
+    WarningLogReader reader(file, path, {});
     reader.read();
     return {reader.events().logEnd(), reader.declaredEncoding()};
 }
@@ -198,7 +208,7 @@ std::uint64_t findLogEnd(const std::u16string& path) { return scanLog(openForRea
 void visitWarningLog(const std::u16string& fileName, const WarningHeadVisitor& visitHead) {
     const std::u16string path = normaliseLogFileName(fileName);
     const LogFileDescriptor file = openForReading(path);
-    WarningLogReader reader(file, path, true, visitHead);
+    WarningLogReader reader(file, path, {}, visitHead);
     reader.read();
 }
 

@@ -24,6 +24,12 @@ namespace orrery::lang::diagnostic {
 /// not convert; nothing is returned in part.
 std::vector<Warning> readWarningLog(const std::u16string& fileName);
 
+/// Reads as readWarningLog does, but builds each record, in file order, where
+/// the store says, keeping none itself: the caller holds the records as it likes
+/// while the file is read. On a failure, the records already in the store
+/// (the last perhaps in part) are the caller's to drop.
+void readWarningLog(const std::u16string& fileName, const WarningRecordStore& store);
+
 /// The records of the log file at path, which is used as given (readWarningLog
 /// after normalising its name). Only a regular file is read (openExistingLogFile),
 /// so a name leading to a pipe or device is refused at once. Raises as

@@ -1,9 +1,13 @@
 // Tests of the functions orrery.internal.diagnostic.log.open, close and load,
 // called by dotted path as the language calls them: a round trip from issued
-// warnings to a loaded Warning array, and failures that leave no array.
+// warnings to a loaded Warning array, a log of many varied records loaded
+// whole and in order, and failures that leave no array.
 #include "diagnostic/log/issue_warning.hpp"
+#include "diagnostic/log/log_output_stream.hpp"
+#include "diagnostic/log/warning_element.hpp"
 #include "diagnostic/warnings/issued_warning_signal.hpp"
 #include "tests/diagnostic/log/log_test_support.hpp"
+#include "tests/diagnostic/log/record_generator.hpp"
 #include "tests/support/expect_error.hpp"
 #include "warning_arrays.hpp"
 
@@ -67,6 +71,28 @@ TEST(LogFunctions, LoadGivesBackTheWarningsIssuedWhileTheLogWasOpen) {
     }
     EXPECT_TRUE(lang::diagnostic::warningRecordAt(*loaded, 1).getWasDisabled());
     warning::utSetWarningStatus(context, "demo:quiet", warning::WarningState::On);
+}
+
+// Records are read straight into their objects: each must get its own record,
+// whole, in file order, however many there are.
+TEST(LogFunctions, LoadMakesOneObjectPerRecordInFileOrder) {
+    const test::ZoneScope utc("UTC");  // where a written time reads back unshifted
+    const test::TemporaryWorkingFolder folder;
+    test::RecordGenerator generate(20251124);
+    std::vector<Warning> written(300);
+    {
+        const auto log = lang::diagnostic::openLogForWriting(folder.file("many.xml"));
+        for (Warning& record : written) {
+            record = generate.record();
+            log->writeElement(lang::diagnostic::renderWarningElement(record));
+        }
+    }
+    const ValueArrayPtr loaded = callLog("load", 1, {ValueArray::chars(u"many")});
+    ASSERT_EQ(loaded->dims(), (Dims{1, written.size()}));
+    for (std::size_t i = 0; i < written.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_TRUE(lang::diagnostic::warningRecordAt(*loaded, i) == written[i]);
+    }
 }
 
 TEST(LogFunctions, FailuresPassOnTheLogsIdentifiersAndLeaveNoArray) {
