@@ -84,7 +84,7 @@ Interpreter::UserFunction::UserFunction(std::shared_ptr<const lang::FunctionDef>
     : def(std::move(definition)),
       file(std::move(fileName)),
       frame{file, text::utf8ToUtf16(def->name), def->pos.line},
-      layout(std::make_shared<SlotLayout>()) {
+      layout(std::make_unique<SlotLayout>()) {
     for (const auto& input : def->inputs) inputSlots.push_back(layout->slotOf(input));
     narginSlot = layout->slotOf("nargin");
     nargoutSlot = layout->slotOf("nargout");
@@ -97,7 +97,7 @@ Interpreter::Callee Interpreter::findCallee(const std::string& name, const Value
     if (ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()))
         return {Callee::Kind::Method, nullptr};
     if (const auto found = functions_.find(name); found != functions_.end())
-        return {Callee::Kind::Script, found->second};
+        return {Callee::Kind::Script, found->second.get()};
     if (interp::isFunction(name)) return {Callee::Kind::Registered, nullptr};
     return {};
 }
@@ -138,7 +138,7 @@ Interpreter::Values Interpreter::callUser(const UserFunction& function, const Va
         raiseArgumentError(def.name, except::throwTooManyOutputs);
     if (callDepth_ >= kMaxCallDepth) except::throwMessage(RecursionLimit(kMaxCallDepth));
 
-    Workspace local(function.layout);
+    Workspace local(*function.layout);
     for (std::size_t i = 0; i < args.size(); ++i)
         if (def.inputs[i] != "~") local.setAt(function.inputSlots[i], args[i]);
     local.setAt(function.narginSlot, ValueArray::scalar(static_cast<double>(args.size())));

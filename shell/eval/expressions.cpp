@@ -118,7 +118,7 @@ ValueArray Interpreter::evalRange(const lang::Expr& expr) {
 ValueArray Interpreter::evalEnd(const lang::Expr& /*expr*/) {
     if (endStack_.empty()) except::throwMessage(NoValue());
     const EndContext& context = endStack_.back();
-    if (context.dims == nullptr) except::throwMessage(EndInCall(text::utf8ToUtf16(context.callee)));
+    if (context.dims == nullptr) except::throwMessage(EndInCall(text::utf8ToUtf16(*context.callee)));
     return ValueArray::scalar(static_cast<double>(values::endValue(*context.dims, context.position, context.count)));
 }
 

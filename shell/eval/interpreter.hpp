@@ -61,7 +61,7 @@ private:
         std::shared_ptr<const lang::FunctionDef> def;
         std::u16string file;
         interp::StackEntry frame;
-        std::shared_ptr<SlotLayout> layout;
+        std::unique_ptr<SlotLayout> layout;
         std::vector<std::uint32_t> inputSlots;
         std::vector<std::uint32_t> outputSlots;
         std::uint32_t narginSlot;
@@ -73,7 +73,7 @@ private:
         const value::Dims* dims;  // null inside the arguments of a function call
         std::size_t position;
         std::size_t count;
-        std::string callee;
+        const std::string* callee;  // the function whose arguments these are; outlives the scope
     };
     class EndScope;
 
@@ -129,7 +129,7 @@ private:
     /// What a call by name runs, looked for in this order.
     struct Callee {
         enum class Kind { None, SessionCommand, Method, Script, Registered } kind = Kind::None;
-        std::shared_ptr<const UserFunction> script;
+        const UserFunction* script;
     };
 
     // calls (calls.cpp)
@@ -150,8 +150,9 @@ private:
 
     Workspace base_;
     Workspace* current_;
-    // held by calls while they run, so redefining a function does not free it
-    std::map<std::string, std::shared_ptr<const UserFunction>, std::less<>> functions_;
+    std::map<std::string, std::unique_ptr<const UserFunction>, std::less<>> functions_;
+    // functions replaced by a later definition: a call of one may still be running
+    std::vector<std::unique_ptr<const UserFunction>> replaced_;
     std::vector<EndContext> endStack_;
     std::size_t callDepth_ = 0;
 };

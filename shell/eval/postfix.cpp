@@ -139,13 +139,13 @@ void Interpreter::evalIndexArgs(const lang::Suffix& suffix, const ValueArray& ta
             args.emplace_back().colon = true;
             continue;
         }
-        EndScope scope(*this, {&target.dims(), k, count, {}});
+        EndScope scope(*this, {&target.dims(), k, count, nullptr});
         args.emplace_back().value = eval(arg);
     }
 }
 
 void Interpreter::evalArguments(const std::vector<lang::ExprPtr>& args, const std::string& callee, Values& values) {
-    EndScope scope(*this, {nullptr, 0, 0, callee});
+    EndScope scope(*this, {nullptr, 0, 0, &callee});
     for (const auto& arg : args) {
         if (arg->kind != ExprKind::Name && arg->kind != ExprKind::Postfix) {
             values.push_back(eval(*arg));  // one value, without a list

@@ -29,8 +29,12 @@ Interpreter::~Interpreter() = default;
 
 void Interpreter::run(const lang::Program& program, const std::u16string& file, const std::u16string& frameName) {
     const StackBudget budget;
-    for (const auto& [name, def] : program.functions)
-        functions_.insert_or_assign(name, std::make_shared<const UserFunction>(def, file));
+    if (callDepth_ == 0) replaced_.clear();  // no call of them is running
+    for (const auto& [name, def] : program.functions) {
+        auto& entry = functions_[name];
+        if (entry && callDepth_ > 0) replaced_.push_back(std::move(entry));
+        entry = std::make_unique<const UserFunction>(def, file);
+    }
     std::optional<interp::FrameGuard> frame;
     if (!frameName.empty()) frame.emplace(interp::StackEntry{file, frameName, 0});
     execBlock(program.statements);

@@ -50,10 +50,9 @@ void SlotLayout::giveBack(Storage storage) noexcept {
     }
 }
 
-Workspace::Workspace() : layout_(std::make_shared<SlotLayout>()) {}
+Workspace::Workspace() : own_(std::make_unique<SlotLayout>()), layout_(own_.get()) {}
 
-Workspace::Workspace(std::shared_ptr<SlotLayout> layout)
-    : layout_(std::move(layout)), values_(layout_->takeStorage()) {}
+Workspace::Workspace(SlotLayout& layout) : layout_(&layout), values_(layout.takeStorage()) {}
 
 Workspace::~Workspace() { layout_->giveBack(std::move(values_)); }
 

@@ -60,8 +60,9 @@ class Workspace {
 public:
     /// A workspace with a layout of its own.
     Workspace();
-    /// A workspace in a layout shared with others (the calls of one function).
-    explicit Workspace(std::shared_ptr<SlotLayout> layout);
+    /// A workspace in a layout shared with others (the calls of one function),
+    /// which must outlive it.
+    explicit Workspace(SlotLayout& layout);
     ~Workspace();
     Workspace(const Workspace&) = delete;
     Workspace& operator=(const Workspace&) = delete;
@@ -97,7 +98,8 @@ public:
 private:
     void setNew(std::uint32_t slot, value::ValueArray value);
 
-    std::shared_ptr<SlotLayout> layout_;
+    std::unique_ptr<SlotLayout> own_;  // the layout, when it is this workspace's own
+    SlotLayout* layout_;
     SlotLayout::Storage values_;
 };
 

@@ -166,23 +166,11 @@ ValueArray ValueArray::zeros(ClassId id, Dims dims) {
     return ValueArray(id, std::move(dims), std::make_shared<Data>(Data{makeStore(id, n)}));
 }
 
-ValueArray ValueArray::scalar(double value) {
-    ValueArray result(ClassId::Double, Dims{1, 1});
-    result.scalar_.f64 = value;
-    return result;
-}
-
 ValueArray ValueArray::doubles(Dims dims, std::vector<double> values) {
     if (values.size() != dims.numel()) except::throwMessage(except::host::BadDimensions());
     if (values.size() == 1) return scalar(values[0]);
     if (values.empty()) return ValueArray(ClassId::Double, std::move(dims));
     return ValueArray(ClassId::Double, std::move(dims), std::make_shared<Data>(Data{std::move(values)}));
-}
-
-ValueArray ValueArray::logicalScalar(bool value) {
-    ValueArray result(ClassId::Logical, Dims{1, 1});
-    result.scalar_.u8 = value ? 1 : 0;
-    return result;
 }
 
 ValueArray ValueArray::logicals(Dims dims, std::vector<bool> values) {

@@ -41,9 +41,17 @@ public:
     // ---- construction -------------------------------------------------------
     /// An array of a numeric class, logical or char, filled with zeros.
     static ValueArray zeros(ClassId id, Dims dims);
-    static ValueArray scalar(double value);
+    static ValueArray scalar(double value) {
+        ValueArray result(ClassId::Double, Dims{1, 1});
+        result.scalar_.f64 = value;
+        return result;
+    }
     static ValueArray doubles(Dims dims, std::vector<double> values);
-    static ValueArray logicalScalar(bool value);
+    static ValueArray logicalScalar(bool value) {
+        ValueArray result(ClassId::Logical, Dims{1, 1});
+        result.scalar_.u8 = value ? 1 : 0;
+        return result;
+    }
     static ValueArray logicals(Dims dims, std::vector<bool> values);
     /// A numeric scalar of the given class (value converted with saturation).
     static ValueArray numericScalar(ClassId id, double value);
