@@ -90,7 +90,8 @@ void Interpreter::planAssignment(const ValueArray& root, const std::vector<lang:
         }
         const bool brace = suffix.kind == SuffixKind::Brace;
         if (brace) requireCellPlace(*node);
-        AssignStep& step = steps.emplace_back(AssignStep{suffix.kind, {}, {}});
+        AssignStep& step = steps.emplace_back();
+        step.kind = suffix.kind;
         evalIndexArgs(suffix, *node, step.args);
         const values::IndexArgs& args = step.args;
         if (!last) {

@@ -17,7 +17,7 @@ namespace orrery::shell::eval {
 
 /// One step into a value, its index arguments and field name already known.
 struct AssignStep {
-    lang::SuffixKind kind;  // Field for static and dynamic fields alike
+    lang::SuffixKind kind = lang::SuffixKind::Paren;  // Field for static and dynamic fields alike
     std::string field;
     values::IndexArgs args;
 };

@@ -88,13 +88,16 @@ void checkElementCount(double count) {
 }
 
 std::optional<std::size_t> wholeCount(double x) {
-    if (!std::isfinite(x) || x < 0 || x != std::floor(x)) return std::nullopt;
-    if (x > static_cast<double>(limitInForce)) {
-        char buffer[64];
-        const auto written = std::to_chars(buffer, buffer + sizeof buffer, x);
-        except::throwMessage(SizeTooLarge(text::asciiToUtf16(std::string_view(buffer, written.ptr)), limitInForce));
+    if (!(x >= 0) || std::isinf(x)) return std::nullopt;  // NaN, negatives, infinities
+    if (x <= static_cast<double>(limitInForce)) {
+        // within the limit the conversion is exact for whole numbers: no floor() call
+        const auto count = static_cast<std::size_t>(x);
+        return static_cast<double>(count) == x ? std::optional(count) : std::nullopt;
     }
-    return static_cast<std::size_t>(x);
+    if (x != std::floor(x)) return std::nullopt;
+    char buffer[64];
+    const auto written = std::to_chars(buffer, buffer + sizeof buffer, x);
+    except::throwMessage(SizeTooLarge(text::asciiToUtf16(std::string_view(buffer, written.ptr)), limitInForce));
 }
 
 bool isNumberLike(const ValueArray& v) { return v.isNumeric() || v.is(ClassId::Logical) || v.is(ClassId::Char); }
