@@ -8,8 +8,8 @@
 namespace orrery::except {
 namespace {
 
-// The current machine's last-error record, or null without a machine.
-QException::LastError::Record* lastError() noexcept {
+// The current machine's last error, or null without a machine.
+QException::LastError::Kept* lastError() noexcept {
     interp::VirtualMachine* machine = interp::currentLocalVirtualMachine();
     return machine != nullptr ? &machine->lastError() : nullptr;
 }
@@ -44,13 +44,20 @@ QException::QException(QExceptionEnvelope&& envelope)
 QException::~QException() = default;
 
 QException::LastError::Record QException::LastError::Get() {
-    const Record* record = lastError();
-    return record != nullptr ? *record : Record{};
+    const Kept* kept = lastError();
+    if (kept == nullptr) return {};
+    if (const auto* record = std::get_if<Record>(kept)) return *record;
+    const auto& failure = std::get<IMsgIDException>(*kept);
+    return {failure.identifier(), failure.message(), std::nullopt};
 }
 
 void QException::LastError::Set(std::string identifier, std::u16string message,
                                 std::optional<value::ValueArray> stack) {
-    if (Record* record = lastError()) *record = Record{std::move(identifier), std::move(message), std::move(stack)};
+    if (Kept* kept = lastError()) *kept = Record{std::move(identifier), std::move(message), std::move(stack)};
+}
+
+void QException::LastError::Set(const IMsgIDException& failure) {
+    if (Kept* kept = lastError()) *kept = failure;
 }
 
 QExceptionEnvelope::QExceptionEnvelope(std::string identifier, std::u16string message,

@@ -1,12 +1,14 @@
 // QException: the language's error object, and the last-error record.
 #pragma once
 
+#include <orrery/except/msg_id_exception.hpp>
 #include <orrery/export.hpp>
 #include <orrery/value/value_array.hpp>
 
 #include <exception>
 #include <optional>
 #include <string>
+#include <variant>
 
 namespace orrery::except {
 
@@ -43,6 +45,12 @@ public:
         };
         static Record Get();
         static void Set(std::string identifier, std::u16string message, std::optional<value::ValueArray> stack);
+        /// Records a catalogued failure: its identifier and, with no stack, its text,
+        /// which is formatted only when Get reads it.
+        static void Set(const IMsgIDException& failure);
+
+        /// What a machine keeps: a record, or a catalogued failure not yet read.
+        using Kept = std::variant<Record, IMsgIDException>;
     };
 
 private:
