@@ -31,7 +31,7 @@ bool conditionHolds(const ValueArray& condition) {
 }
 
 bool isEmptyMessage(const ValueArray& message) {
-    return message.isEmpty() || (message.isTextScalarTolerant() && message.text().empty());
+    return message.isEmpty() || (message.isTextScalarTolerant() && message.textView().empty());
 }
 
 }  // namespace

@@ -19,19 +19,19 @@ bool isSilentMessage(const ValueArray& first) {
             if (first.is(id)) return true;
         }
     }
-    return first.isTextScalarTolerant() && first.text().empty();
+    return first.isTextScalarTolerant() && first.textView().empty();
 }
 
 // The analysis and its temporaries end here, before anything is raised.
 except::QExceptionEnvelope describeError(std::int32_t inputCount, const ValueArray* const* inputs) {
-    MessageInputAnalyzer analyzer(inputCount, inputs, std::string(ids::kErrorPrefix));
+    MessageInputAnalyzer analyzer(inputCount, inputs, ids::kErrorPrefix);
     switch (analyzer.kind()) {
         case MessageKind::MessageObject: return except::QExceptionEnvelope(*analyzer.ingredients());
         case MessageKind::Structure: {
             ErrorStructure error = readErrorStructure(*inputs[0]);
             return {std::move(error.identifier), std::move(error.message), std::move(error.stack), 1};
         }
-        case MessageKind::Text: return {analyzer.identifier(), analyzer.formatMessage(), std::nullopt, 1};
+        case MessageKind::Text: return {analyzer.takeIdentifier(), analyzer.formatMessage(), std::nullopt, 1};
         default: return {"", u"", std::nullopt, 1};
     }
 }

@@ -40,7 +40,7 @@ warning::utWarningLog* getOrCreateWarningLog(warning::WarningManagerContext* con
 }
 
 void issueAndLogWarning(warning::WarningManagerContext* context, const std::string& identifier,
-                        const std::u16string& format, std::int32_t count, const value::ValueArray* const* values,
+                        std::u16string_view format, std::int32_t count, const value::ValueArray* const* values,
                         const std::u16string& message) {
     const bool wasDisabled = warning::issueWarningWithoutLogging(context, identifier, message);
     if (context == nullptr) return;

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace orrery::lang::diagnostic {
 
@@ -16,7 +17,7 @@ namespace orrery::lang::diagnostic {
 /// first when the context has none: identifier, format, the count format
 /// arguments, the formatted message and whether the warning was disabled.
 void issueAndLogWarning(warning::WarningManagerContext* context, const std::string& identifier,
-                        const std::u16string& format, std::int32_t count, const value::ValueArray* const* values,
+                        std::u16string_view format, std::int32_t count, const value::ValueArray* const* values,
                         const std::u16string& message);
 
 /// The context's log. When it has none, one is made (by the installed factory

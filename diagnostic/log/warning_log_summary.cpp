@@ -3,6 +3,8 @@
 
 #include "diagnostic/log/warning_log_reader.hpp"
 
+#include <orrery/text/text_hash.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -12,11 +14,6 @@
 
 namespace orrery::lang::diagnostic {
 namespace {
-
-struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const noexcept { return std::hash<std::string_view>{}(text); }
-};
 
 /// The tallies of a log and where each identifier's tally is.
 class Tallies {
@@ -32,7 +29,7 @@ public:
 
 private:
     std::vector<IdentifierTally> tallies_;
-    std::unordered_map<std::string, std::size_t, TextHash, std::equal_to<>> index_;
+    std::unordered_map<std::string, std::size_t, text::TextHash, std::equal_to<>> index_;
 };
 
 }  // namespace

@@ -64,10 +64,10 @@ void WarningLogXML::warn(warning::WarningManagerContext* context, const std::str
 }
 
 void WarningLogXML::warn(warning::WarningManagerContext* context, const std::string& identifier,
-                         const std::u16string& format, std::int32_t count, const value::ValueArray* const* values,
+                         std::u16string_view format, std::int32_t count, const value::ValueArray* const* values,
                          const std::u16string& message, bool wasDisabled) {
-    logWarning(context, identifier, message, wasDisabled, [&format, count, values](Warning& record) {
-        record.setFormat(format);
+    logWarning(context, identifier, message, wasDisabled, [format, count, values](Warning& record) {
+        record.setFormat(std::u16string(format));
         std::vector<PrintfArgument> arguments;
         if (count > 0) arguments.reserve(static_cast<std::size_t>(count));
         for (std::int32_t i = 0; i < count; ++i) arguments.push_back(argumentOfValue(*values[i]));

@@ -50,7 +50,7 @@ public:
               std::va_list* arguments, const std::u16string& message, bool wasDisabled) override;
     /// A format with count interpreter values (none when count <= 0), each typed by
     /// argumentOfValue; the format is logged as given.
-    void warn(warning::WarningManagerContext* context, const std::string& identifier, const std::u16string& format,
+    void warn(warning::WarningManagerContext* context, const std::string& identifier, std::u16string_view format,
               std::int32_t count, const value::ValueArray* const* values, const std::u16string& message,
               bool wasDisabled) override;
     /// Adds the log file to the set of open logs under its normalised name

@@ -8,7 +8,6 @@
 #include <orrery/interp/function_table.hpp>
 #include <orrery/interp/sprintf.hpp>
 #include <orrery/ocos/message_object.hpp>
-#include <orrery/text/text.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
 #include <algorithm>
@@ -24,8 +23,12 @@ using value::ValueArray;
 // here, instead of converting to UTF-8, keeps a message with an unpaired
 // surrogate a message rather than a conversion failure.
 std::optional<std::string> asciiCandidate(std::u16string_view text) {
-    if (!text::isAscii(text)) return std::nullopt;
-    return text::utf16ToAscii(text);
+    std::string ascii(text.size(), '\0');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] >= 128) return std::nullopt;
+        ascii[i] = static_cast<char>(text[i]);
+    }
+    return ascii;
 }
 
 // The language's isscalar, so that a class may answer for its own objects.
@@ -40,15 +43,17 @@ bool answersScalar(const ValueArray& object) {
 
 }  // namespace
 
-MessageInputAnalyzer::MessageInputAnalyzer(std::int32_t inputCount, const ValueArray* const* inputs, std::string prefix)
-    : prefix_(std::move(prefix)), inputCount_(std::max(inputCount, std::int32_t{0})) {
-    rawInputs_.assign(inputs, inputs + inputCount_);
+MessageInputAnalyzer::MessageInputAnalyzer(std::int32_t inputCount, const ValueArray* const* inputs,
+                                           std::string_view prefix)
+    : prefix_(prefix),
+      rawInputs_(inputs, static_cast<std::size_t>(std::max(inputCount, std::int32_t{0}))),
+      inputCount_(std::max(inputCount, std::int32_t{0})) {
     if (inputCount_ > 0) classify();
 }
 
 template <class Key>
 void MessageInputAnalyzer::fail(std::string_view mnemonic, Key key) const {
-    except::throwMessage(prefix_ + std::string(mnemonic), std::move(key));
+    except::throwMessage(std::string(prefix_).append(mnemonic), std::move(key));
 }
 
 void MessageInputAnalyzer::classify() {
@@ -72,13 +77,13 @@ void MessageInputAnalyzer::classify() {
 }
 
 void MessageInputAnalyzer::analyseText() {
-    const auto candidate = asciiCandidate(rawInputs_[0]->textView());
+    auto candidate = asciiCandidate(rawInputs_[0]->textView());
     if (!candidate || !warning::utIsValidMessageIdentifier(*candidate)) {
         identifier_.clear();
         identifierIndex_ = 0;
         return;
     }
-    identifier_ = *candidate;
+    identifier_ = std::move(*candidate);
     identifierIndex_ = 1;
     // Deliberately, a lone argument shaped like an identifier is never a message.
     if (inputCount_ < 2) fail("missingMessageArgument", ids::AnalyzerMissingMessageArgument());

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,7 +26,8 @@ enum class MessageKind : std::int32_t {
 /// yields the identifier and the message text. Every analysis failure carries the
 /// caller's prefix plus its mnemonic ("ORRERY:error:missingMessageArgument") and
 /// the text of the matching "ORRERY:msgInputAnalyzer" catalogue entry. The inputs
-/// are borrowed: they must outlive the analyzer and stay unchanged while it lives.
+/// are borrowed, with the array of their pointers: both must outlive the analyzer
+/// and stay unchanged while it lives.
 ///
 /// A first input is text when it is a character row, a string scalar that is not
 /// missing, or the 0-by-0 char array (the language's ''), which is the empty text;
@@ -36,8 +38,9 @@ public:
     static constexpr std::size_t kMaxIdentifierBytes = 8191;
 
     /// Analyses inputs[0 .. inputCount-1]; an empty list is left Unclassified.
-    /// prefix ends in ":". Raises the failures of the analysis (see the class).
-    MessageInputAnalyzer(std::int32_t inputCount, const value::ValueArray* const* inputs, std::string prefix);
+    /// prefix ends in ":" and must outlive the analyzer. Raises the failures of the
+    /// analysis (see the class).
+    MessageInputAnalyzer(std::int32_t inputCount, const value::ValueArray* const* inputs, std::string_view prefix);
 
     /// The message of a Text analysis: the first input taken literally when it is
     /// the only input, otherwise the language's sprintf of the format and its
@@ -47,6 +50,8 @@ public:
 
     /// The identifier found (UTF-8); empty when the first input is not one.
     const std::string& identifier() const noexcept { return identifier_; }
+    /// Moves the identifier out, for a caller done with the analysis.
+    std::string takeIdentifier() noexcept { return std::move(identifier_); }
     /// 1 when the first input is an identifier, 0 when not, -1 before text analysis;
     /// also the index of the format among the inputs.
     std::int32_t identifierIndex() const noexcept { return identifierIndex_; }
@@ -55,9 +60,9 @@ public:
     const std::optional<catalogue::MessageContent>& ingredients() const noexcept { return ingredients_; }
     /// The arguments of a message-object input.
     const std::vector<catalogue::MessageArgument>& messageArguments() const noexcept { return messageArguments_; }
-    const std::vector<const value::ValueArray*>& rawInputs() const noexcept { return rawInputs_; }
+    std::span<const value::ValueArray* const> rawInputs() const noexcept { return rawInputs_; }
     std::int32_t inputCount() const noexcept { return inputCount_; }
-    const std::string& prefix() const noexcept { return prefix_; }
+    std::string_view prefix() const noexcept { return prefix_; }
     /// Kept for the warning side; the analysis leaves it empty.
     const std::u16string& format() const noexcept { return format_; }
 
@@ -73,8 +78,8 @@ private:
     std::string identifier_;
     std::int32_t identifierIndex_ = -1;
     MessageKind kind_ = MessageKind::Unclassified;
-    std::string prefix_;
-    std::vector<const value::ValueArray*> rawInputs_;
+    std::string_view prefix_;
+    std::span<const value::ValueArray* const> rawInputs_;
     std::int32_t inputCount_;
     bool formatArgumentsChecked_ = false;
     std::u16string format_;

@@ -35,7 +35,7 @@ void issueTextWarning(std::int32_t nlhs, value::ValueArrayPtr* plhs, warning::Wa
     const std::u16string message = analysis.formatMessage();
     const auto formatIndex = static_cast<std::size_t>(analysis.identifierIndex());
     const std::int32_t argumentCount = analysis.inputCount() - (hasIdentifier ? 2 : 1);
-    lang::diagnostic::issueAndLogWarning(context, analysis.identifier(), inputs[formatIndex]->text(), argumentCount,
+    lang::diagnostic::issueAndLogWarning(context, analysis.identifier(), inputs[formatIndex]->textView(), argumentCount,
                                          inputs.data() + formatIndex + 1, message);
 }
 

@@ -38,8 +38,8 @@ void runTextCall(std::int32_t nlhs, ValueArrayPtr* plhs, WarningManagerContext* 
     // An identifier holds a colon, which no keyword does: it is never a command,
     // and it is already at hand as text.
     const bool isIdentifier = analysis.identifierIndex() == 1;
-    const std::string first =
-        isIdentifier ? analysis.identifier() : orrery::text::utf16ToUtf8Lossy(prhs[0]->textView());
+    const std::string converted = isIdentifier ? std::string() : orrery::text::utf16ToUtf8Lossy(prhs[0]->textView());
+    const std::string& first = isIdentifier ? analysis.identifier() : converted;
     const auto command = isIdentifier ? nullptr : orrery::diagnostic::findWarningCommand(first, nrhs - 1);
     if (command != nullptr) return orrery::diagnostic::runWarningCommand(command, nlhs, plhs, context, nrhs, prhs);
     if (nrhs == 2 && looksReversed(analysis, first)) {
@@ -54,7 +54,7 @@ void runTextCall(std::int32_t nlhs, ValueArrayPtr* plhs, WarningManagerContext* 
 void bnFullWarningFcn(std::int32_t nlhs, ValueArrayPtr* plhs, std::int32_t nrhs, const ValueArray* const* prhs) {
     if (nlhs > 2) orrery::except::throwTooManyOutputs();
     WarningManagerContext* context = orrery::diagnostic::warningContext();
-    MessageInputAnalyzer analysis(nrhs, prhs, std::string(orrery::diagnostic::ids::kWarningPrefix));
+    MessageInputAnalyzer analysis(nrhs, prhs, orrery::diagnostic::ids::kWarningPrefix);
     switch (analysis.kind()) {
         case MessageKind::Structure: return bnStructureWarningFcn(nlhs, plhs, nrhs, prhs);
         case MessageKind::Unclassified: return orrery::diagnostic::queryState(nlhs, plhs, context, std::nullopt);

@@ -1,10 +1,12 @@
 // Message catalogue on an ICU resource bundle of nested tables, one level per
-// identifier component, formatted with ICU MessageFormat.
+// identifier component, formatted with ICU MessageFormat. The entries are indexed
+// by identifier once; each parses its MessageFormat on first use and keeps it.
 #include <orrery/catalogue/catalogue.hpp>
 #include <orrery/catalogue/message_content.hpp>
 #include <orrery/except/internal_error.hpp>
 #include <orrery/except/throw_message.hpp>
 #include <orrery/text/text.hpp>
+#include <orrery/text/text_hash.hpp>
 
 #include <unicode/locid.h>
 #include <unicode/messagepattern.h>
@@ -18,9 +20,9 @@
 #include <filesystem>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <stdexcept>
 #include <system_error>
+#include <unordered_map>
 #include <vector>
 
 namespace orrery::catalogue {
@@ -47,42 +49,7 @@ const UResourceBundle& rootBundle() {
     return *root;
 }
 
-std::vector<std::string> components(std::string_view identifier) {
-    std::vector<std::string> parts;
-    std::size_t start = 0;
-    while (true) {
-        const std::size_t colon = identifier.find(':', start);
-        parts.emplace_back(identifier.substr(start, colon - start));
-        if (colon == std::string_view::npos) return parts;
-        start = colon + 1;
-    }
-}
-
-// The pattern of the identifier, or an empty optional when there is none.
-std::optional<std::u16string> lookupPattern(std::string_view identifier) {
-    const UResourceBundle* table = &rootBundle();
-    Bundle level;
-    for (const std::string& part : components(identifier)) {
-        if (part.empty() || ures_getType(table) != URES_TABLE) return std::nullopt;
-        UErrorCode status = U_ZERO_ERROR;
-        Bundle next(ures_getByKey(table, part.c_str(), nullptr, &status));
-        if (U_FAILURE(status)) return std::nullopt;
-        level = std::move(next);
-        table = level.get();
-    }
-    if (ures_getType(table) != URES_STRING) return std::nullopt;
-    UErrorCode status = U_ZERO_ERROR;
-    int32_t length = 0;
-    const UChar* pattern = ures_getString(table, &length, &status);
-    if (U_FAILURE(status)) return std::nullopt;
-    return std::u16string(reinterpret_cast<const char16_t*>(pattern), static_cast<std::size_t>(length));
-}
-
-icu::Formattable toFormattable(const MessageArgument& argument) {
-    if (const auto* number = std::get_if<double>(&argument)) return icu::Formattable(*number);
-    const auto& text = std::get<std::u16string>(argument);
-    return icu::Formattable(icu::UnicodeString(text.data(), static_cast<int32_t>(text.size())));
-}
+// ---- the index of entries -------------------------------------------------------
 
 // The number of arguments a pattern uses: one more than its highest argument
 // number (nested choices and plurals included).
@@ -97,6 +64,101 @@ std::size_t argumentsUsed(const icu::UnicodeString& pattern) {
             used = std::max(used, static_cast<std::size_t>(part.getValue()) + 1);
     }
     return used;
+}
+
+// One entry: its pattern, which aliases the bundle's memory, and the format parsed
+// from it on first use, in the ICU default locale of that use.
+class Entry {
+public:
+    explicit Entry(icu::UnicodeString pattern) : pattern_(std::move(pattern)) {}
+
+    std::size_t argumentCount(std::string_view identifier) const { return parsed(identifier).argumentCount; }
+
+    // A MessageFormat makes its default number and date formats inside format() on
+    // first need, so it serves one caller at a time. After a change of the default
+    // locale the text is formatted in the new one, by a format made for the call.
+    icu::UnicodeString format(std::string_view identifier, const icu::Formattable* values, int32_t count,
+                              UErrorCode& status) const {
+        Parsed& made = parsed(identifier);
+        icu::UnicodeString result;
+        icu::FieldPosition position;
+        if (made.format.getLocale() != icu::Locale::getDefault()) {
+            icu::MessageFormat(pattern_, icu::Locale::getDefault(), status)
+                .format(values, count, result, position, status);
+            return result;
+        }
+        const std::lock_guard lock(made.formatting);
+        made.format.format(values, count, result, position, status);
+        return result;
+    }
+
+private:
+    struct Parsed {
+        Parsed(const icu::UnicodeString& pattern, UErrorCode& status)
+            : format(pattern, icu::Locale::getDefault(), status), argumentCount(argumentsUsed(pattern)) {}
+        icu::MessageFormat format;
+        std::size_t argumentCount;
+        std::mutex formatting;
+    };
+
+    Parsed& parsed(std::string_view identifier) const {
+        std::call_once(once_, [&] {
+            UErrorCode status = U_ZERO_ERROR;
+            auto made = std::make_unique<Parsed>(pattern_, status);
+            if (U_FAILURE(status))
+                except::internalError("message catalogue", "malformed entry for " + std::string(identifier));
+            parsed_ = std::move(made);
+        });
+        return *parsed_;
+    }
+
+    icu::UnicodeString pattern_;
+    mutable std::once_flag once_;
+    mutable std::unique_ptr<Parsed> parsed_;
+};
+
+using Index = std::unordered_map<std::string, Entry, text::TextHash, std::equal_to<>>;
+
+// Adds the texts of a table and of the tables within it under their identifiers.
+void addEntries(const UResourceBundle& table, const std::string& prefix, Index& index) {
+    const int32_t size = ures_getSize(&table);
+    for (int32_t i = 0; i < size; ++i) {
+        UErrorCode status = U_ZERO_ERROR;
+        const Bundle item(ures_getByIndex(&table, i, nullptr, &status));
+        if (U_FAILURE(status)) continue;
+        const std::string identifier = (prefix.empty() ? "" : prefix + ":") + ures_getKey(item.get());
+        if (ures_getType(item.get()) == URES_TABLE) {
+            addEntries(*item, identifier, index);
+            continue;
+        }
+        int32_t length = 0;
+        const UChar* pattern = ures_getString(item.get(), &length, &status);
+        // The bundle stays open for good, so the pattern may alias its memory.
+        if (U_SUCCESS(status)) index.try_emplace(identifier, icu::UnicodeString(false, pattern, length));
+    }
+}
+
+// Every entry of the catalogue, indexed once; read without a lock after that.
+const Index& entries() {
+    static const Index index = [] {
+        Index made;
+        addEntries(rootBundle(), "", made);
+        return made;
+    }();
+    return index;
+}
+
+// The entry of the identifier, or null when there is none.
+const Entry* findEntry(std::string_view identifier) {
+    const Index& index = entries();
+    const auto found = index.find(identifier);
+    return found == index.end() ? nullptr : &found->second;
+}
+
+icu::Formattable toFormattable(const MessageArgument& argument) {
+    if (const auto* number = std::get_if<double>(&argument)) return icu::Formattable(*number);
+    const auto& text = std::get<std::u16string>(argument);
+    return icu::Formattable(icu::UnicodeString(text.data(), static_cast<int32_t>(text.size())));
 }
 
 }  // namespace
@@ -114,34 +176,33 @@ std::string catalogueFolder() {
     return built.string();
 }
 
-bool hasMessage(std::string_view identifier) { return lookupPattern(identifier).has_value(); }
+bool hasMessage(std::string_view identifier) { return findEntry(identifier) != nullptr; }
 
 namespace {
 
-// The pattern of the identifier as ICU text; a missing entry raises "noSuchMessage".
-icu::UnicodeString requirePattern(std::string_view identifier) {
-    const auto pattern = lookupPattern(identifier);
-    if (!pattern) except::throwMessage(NoSuchMessage(text::utf8ToUtf16(identifier)));
-    return {pattern->data(), static_cast<int32_t>(pattern->size())};
+// The entry of the identifier; a missing entry raises "noSuchMessage".
+const Entry& requireEntry(std::string_view identifier) {
+    const Entry* entry = findEntry(identifier);
+    if (entry == nullptr) except::throwMessage(NoSuchMessage(text::utf8ToUtf16(identifier)));
+    return *entry;
 }
 
 }  // namespace
 
-std::size_t messageArgumentCount(std::string_view identifier) { return argumentsUsed(requirePattern(identifier)); }
+std::size_t messageArgumentCount(std::string_view identifier) {
+    return requireEntry(identifier).argumentCount(identifier);
+}
 
 std::u16string formatMessage(std::string_view identifier, std::span<const MessageArgument> arguments) {
-    const icu::UnicodeString patternText = requirePattern(identifier);
-    UErrorCode status = U_ZERO_ERROR;
-    icu::MessageFormat format(patternText, icu::Locale::getDefault(), status);
-    if (U_FAILURE(status)) except::internalError("message catalogue", "malformed entry for " + std::string(identifier));
-    if (arguments.size() != argumentsUsed(patternText))
+    const Entry& entry = requireEntry(identifier);
+    if (arguments.size() != entry.argumentCount(identifier))
         except::throwMessage(ArgumentMismatch(text::utf8ToUtf16(identifier)));
     std::vector<icu::Formattable> values;
     values.reserve(arguments.size());
     for (const auto& argument : arguments) values.push_back(toFormattable(argument));
-    icu::UnicodeString result;
-    icu::FieldPosition position;
-    format.format(values.data(), static_cast<int32_t>(values.size()), result, position, status);
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::UnicodeString result =
+        entry.format(identifier, values.data(), static_cast<int32_t>(values.size()), status);
     if (U_FAILURE(status)) except::throwMessage(ArgumentMismatch(text::utf8ToUtf16(identifier)));
     return std::u16string(reinterpret_cast<const char16_t*>(result.getBuffer()),
                           static_cast<std::size_t>(result.length()));

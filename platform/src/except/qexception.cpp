@@ -5,11 +5,14 @@
 #include <orrery/interp/virtual_machine.hpp>
 #include <orrery/text/text.hpp>
 
+#include <memory>
+#include <new>
+
 namespace orrery::except {
 namespace {
 
-// The current machine's last-error record, or null without a machine.
-QException::LastError::Record* lastError() noexcept {
+// The current machine's last error, or null without a machine.
+QException::LastError::Kept* lastError() noexcept {
     interp::VirtualMachine* machine = interp::currentLocalVirtualMachine();
     return machine != nullptr ? &machine->lastError() : nullptr;
 }
@@ -31,26 +34,46 @@ QException::QException(std::string identifier, std::u16string message, value::Va
     : identifier_(std::move(identifier)),
       message_(std::move(message)),
       stack_(std::move(stack)),
-      functionName_(std::move(functionName)),
-      text_(describe(message_)) {}
+      functionName_(std::move(functionName)) {}
 
 QException::QException(QExceptionEnvelope&& envelope)
     : identifier_(std::move(envelope.identifier_)),
       message_(std::move(envelope.message_)),
-      stack_(std::move(*envelope.stack_)),
-      functionName_(std::move(envelope.functionName_)),
-      text_(describe(message_)) {}
+      stack_(envelope.stack_ ? std::move(*envelope.stack_) : interp::currentStack(0)),
+      functionName_(std::move(envelope.functionName_)) {}
 
 QException::~QException() = default;
 
+const char* QException::what() const noexcept { return text_.of(message_); }
+
+const char* QException::Utf8Text::of(const std::u16string& message) const noexcept {
+    if (const std::string* made = text_.load(std::memory_order_acquire)) return made->c_str();
+    try {
+        auto made = std::make_unique<std::string>(describe(message));
+        std::string* first = nullptr;
+        if (text_.compare_exchange_strong(first, made.get(), std::memory_order_acq_rel, std::memory_order_acquire))
+            return made.release()->c_str();
+        return first->c_str();  // another thread made it first
+    } catch (const std::bad_alloc&) {
+        return "(no memory to show the message)";
+    }
+}
+
 QException::LastError::Record QException::LastError::Get() {
-    const Record* record = lastError();
-    return record != nullptr ? *record : Record{};
+    const Kept* kept = lastError();
+    if (kept == nullptr) return {};
+    if (const auto* record = std::get_if<Record>(kept)) return *record;
+    const auto& failure = std::get<IMsgIDException>(*kept);
+    return {failure.identifier(), failure.message(), std::nullopt};
 }
 
 void QException::LastError::Set(std::string identifier, std::u16string message,
                                 std::optional<value::ValueArray> stack) {
-    if (Record* record = lastError()) *record = Record{std::move(identifier), std::move(message), std::move(stack)};
+    if (Kept* kept = lastError()) *kept = Record{std::move(identifier), std::move(message), std::move(stack)};
+}
+
+void QException::LastError::Set(const IMsgIDException& failure) {
+    if (Kept* kept = lastError()) *kept = failure;
 }
 
 QExceptionEnvelope::QExceptionEnvelope(std::string identifier, std::u16string message,
@@ -59,12 +82,5 @@ QExceptionEnvelope::QExceptionEnvelope(std::string identifier, std::u16string me
 
 QExceptionEnvelope::QExceptionEnvelope(const catalogue::MessageContent& content)
     : identifier_(content.identifier), message_(content.text()) {}
-
-void QExceptionEnvelope::DoThrow() {
-    if (!stack_) stack_ = interp::currentStack(0);
-    // Built from the envelope itself, the exception leaves no temporaries for the
-    // unwinder to destroy on this frame.
-    throw QException(std::move(*this));
-}
 
 }  // namespace orrery::except

@@ -5,7 +5,6 @@
 
 #include <orrery/except/throw_message.hpp>
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -44,9 +43,7 @@ class FormatParser {
 public:
     explicit FormatParser(std::u16string_view format) : format_(format) {}
 
-    std::vector<FormatItem> parse() {
-        // Most formats are a few literal runs around one or two conversions.
-        items_.reserve(4);
+    FormatItems parse() {
         while (pos_ < format_.size()) {
             const char16_t unit = format_[pos_];
             if (unit == u'\\') {
@@ -69,7 +66,8 @@ private:
 
     // Takes the units up to the next escape or conversion as they stand.
     void readPlainRun() {
-        const std::size_t end = std::min(format_.find_first_of(u"\\%", pos_), format_.size());
+        std::size_t end = pos_;
+        while (end < format_.size() && format_[end] != u'\\' && format_[end] != u'%') ++end;
         literal_.append(format_.substr(pos_, end - pos_));
         pos_ = end;
     }
@@ -166,14 +164,14 @@ private:
     std::u16string_view format_;
     std::size_t pos_ = 0;
     std::u16string literal_;
-    std::vector<FormatItem> items_;
+    FormatItems items_;
 };
 
 }  // namespace
 
-std::vector<FormatItem> parseFormat(std::u16string_view format) { return FormatParser(format).parse(); }
+FormatItems parseFormat(std::u16string_view format) { return FormatParser(format).parse(); }
 
-bool hasConversion(const std::vector<FormatItem>& items) {
+bool hasConversion(const FormatItems& items) {
     for (const auto& item : items)
         if (std::holds_alternative<Conversion>(item)) return true;
     return false;

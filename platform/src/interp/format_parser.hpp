@@ -1,11 +1,12 @@
 // A sprintf format taken apart into literal runs and conversions.
 #pragma once
 
+#include <boost/container/small_vector.hpp>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
 #include <variant>
-#include <vector>
 
 namespace orrery::interp::detail {
 
@@ -43,14 +44,17 @@ struct Conversion {
 /// A run of literal text (escapes and "%%" already resolved) or a conversion.
 using FormatItem = std::variant<std::u16string, Conversion>;
 
+/// The items of a format; most formats fit without a heap block.
+using FormatItems = boost::container::small_vector<FormatItem, 4>;
+
 /// Takes a format apart. Escapes \n \t \\ \a \b \f \r \v, octal \ooo (one to three
 /// digits) and hex \xH.. (one to four digits) become the units they stand for; a
 /// backslash before anything else stays a backslash. Adjacent literal text forms
 /// one item. An incomplete or unknown conversion ends the format there (the text
 /// before it is kept); a written width or precision above maxFieldSize raises "ORRERY:sprintf:badFieldSize".
-std::vector<FormatItem> parseFormat(std::u16string_view format);
+FormatItems parseFormat(std::u16string_view format);
 
 /// True when the items hold at least one conversion.
-bool hasConversion(const std::vector<FormatItem>& items);
+bool hasConversion(const FormatItems& items);
 
 }  // namespace orrery::interp::detail

@@ -10,6 +10,7 @@
 #include <orrery/except/throw_message.hpp>
 
 #include <cstdlib>
+#include <cstring>
 
 namespace orrery::interp {
 namespace {
@@ -17,7 +18,7 @@ namespace {
 using detail::ArgumentCursor;
 using detail::Conversion;
 using detail::FieldSize;
-using detail::FormatItem;
+using detail::FormatItems;
 
 // A width or precision read from the data: a whole number of at most maxFieldSize
 // in magnitude (a negative width left-aligns, a negative precision counts as none).
@@ -32,7 +33,12 @@ int fieldSizeFromData(ArgumentCursor& data) {
 
 // Settles "*" fields from the data; false when the data ran out first.
 bool resolve(const Conversion& conversion, ArgumentCursor& data, detail::ResolvedConversion& resolved) {
-    resolved = {conversion.flags, std::nullopt, std::nullopt, conversion.type};
+    // Field by field: a whole-struct assignment makes a temporary the processor
+    // stalls on reading back.
+    resolved.flags = conversion.flags;
+    resolved.width.reset();
+    resolved.precision.reset();
+    resolved.type = conversion.type;
     if (conversion.width.source == FieldSize::Source::FromData) {
         if (data.exhausted()) return false;
         const int width = fieldSizeFromData(data);
@@ -51,7 +57,7 @@ bool resolve(const Conversion& conversion, ArgumentCursor& data, detail::Resolve
     return !data.exhausted();
 }
 
-std::u16string literalTextOnly(const std::vector<FormatItem>& items) {
+std::u16string literalTextOnly(const FormatItems& items) {
     std::u16string out;
     for (const auto& item : items)
         if (const auto* literal = std::get_if<std::u16string>(&item)) out += *literal;
@@ -67,8 +73,16 @@ void append(std::u16string& out, std::u16string_view text) {
 
 // Applies the format again and again while data remains; the output ends at the
 // first conversion that finds no data left.
-std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data) {
+std::u16string cycle(const FormatItems& items, ArgumentCursor& data) {
     std::u16string out;
+    // Room for one pass with short conversions, so that a message is one allocation.
+    constexpr std::size_t kRoomPerConversion = 16;
+    std::size_t onePass = 0;
+    for (const auto& item : items) {
+        const auto* literal = std::get_if<std::u16string>(&item);
+        onePass += literal != nullptr ? literal->size() : kRoomPerConversion;
+    }
+    out.reserve(onePass);
     for (;;) {
         for (const auto& item : items) {
             if (const auto* literal = std::get_if<std::u16string>(&item)) {
@@ -84,13 +98,36 @@ std::u16string cycle(const std::vector<FormatItem>& items, ArgumentCursor& data)
     }
 }
 
+// The items of the format. The last format parsed on the thread is kept with its
+// items, so that a loop printing with one format parses it once; a format that
+// does not parse is not kept. sprintf never runs inside itself, so the items stay
+// as they are while the caller uses them.
+const FormatItems& parsedFormat(std::u16string_view format) {
+    struct Kept {
+        std::u16string format;
+        FormatItems items;
+        bool valid = false;
+    };
+    thread_local Kept kept;
+    // memcmp compares a wide text much faster than the char16_t traits do.
+    if (kept.valid && format.size() == kept.format.size() &&
+        std::memcmp(format.data(), kept.format.data(), format.size() * sizeof(char16_t)) == 0)
+        return kept.items;
+    FormatItems items = detail::parseFormat(format);
+    kept.valid = false;
+    kept.format.assign(format);
+    kept.items = std::move(items);
+    kept.valid = true;
+    return kept.items;
+}
+
 }  // namespace
 
 std::u16string sprintfText(std::int32_t count, const value::ValueArray* const* values) {
     if (count < 1 || values == nullptr) except::throwNotEnoughInputs();
     const value::ValueArray* format = values[0];
     if (format == nullptr || !format->isTextScalarTolerant()) except::throwMessage(detail::MissingStringArgument());
-    const auto items = detail::parseFormat(format->textView());
+    const FormatItems& items = parsedFormat(format->textView());
     ArgumentCursor data({values + 1, static_cast<std::size_t>(count - 1)});
     // A format without conversions, or a call without data, prints the literal text once.
     return detail::hasConversion(items) && !data.exhausted() ? cycle(items, data) : literalTextOnly(items);

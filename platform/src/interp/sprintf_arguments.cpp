@@ -15,14 +15,12 @@ using value::ClassId;
 using value::ValueArray;
 
 Number makeNumber(double value) {
-    Number number{value, {}};
-    if (!std::isfinite(value) || value != std::trunc(value)) return number;
+    if (!std::isfinite(value) || value != std::trunc(value)) return {value, {}};
     // 2^63 and 2^64 are exact doubles; the ranges are half-open.
     if (value >= -9223372036854775808.0 && value < 9223372036854775808.0)
-        number.exact = static_cast<std::int64_t>(value);
-    else if (value >= 0 && value < 18446744073709551616.0)
-        number.exact = static_cast<std::uint64_t>(value);
-    return number;
+        return {value, static_cast<std::int64_t>(value)};
+    if (value >= 0 && value < 18446744073709551616.0) return {value, static_cast<std::uint64_t>(value)};
+    return {value, {}};
 }
 
 ArgumentCursor::ArgumentCursor(std::span<const ValueArray* const> arguments) : arguments_(arguments) {

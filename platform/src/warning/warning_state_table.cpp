@@ -13,7 +13,7 @@ constexpr int kByIdentifier = 1;
 
 const WarningState* WarningStateTable::find(std::string_view identifier) const {
     const auto& byIdentifier = entries_.get<kByIdentifier>();
-    const auto found = byIdentifier.find(identifier, IdentifierHash{}, std::equal_to<>{});
+    const auto found = byIdentifier.find(identifier, text::TextHash{}, std::equal_to<>{});
     return found == byIdentifier.end() ? nullptr : &found->state;
 }
 

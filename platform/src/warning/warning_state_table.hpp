@@ -1,6 +1,7 @@
 // The warning manager's table of identifiers' own states.
 #pragma once
 
+#include <orrery/text/text_hash.hpp>
 #include <orrery/warning/warning_manager.hpp>
 
 #include <boost/multi_index/hashed_index.hpp>
@@ -43,18 +44,11 @@ private:
         mutable WarningState state;
     };
 
-    /// Hashes every spelling of an identifier alike, so that a string_view finds a std::string.
-    struct IdentifierHash {
-        std::size_t operator()(std::string_view identifier) const noexcept {
-            return std::hash<std::string_view>{}(identifier);
-        }
-    };
-
     using Entries = boost::multi_index_container<
         Entry, boost::multi_index::indexed_by<
                    boost::multi_index::sequenced<>,
                    boost::multi_index::hashed_unique<boost::multi_index::member<Entry, std::string, &Entry::identifier>,
-                                                     IdentifierHash>>>;
+                                                     text::TextHash>>>;
 
     Entries entries_;
 };

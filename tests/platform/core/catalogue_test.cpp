@@ -10,6 +10,8 @@
 #include <iterator>
 #include <regex>
 #include <set>
+#include <thread>
+#include <vector>
 
 using namespace orrery::catalogue;
 
@@ -35,6 +37,47 @@ TEST(Catalogue, FormatsKnownEntriesAndReportsMissingOnes) {
         SCOPED_TRACE(wrongCount.size());
         EXPECT_MSGID(formatMessage("ORRERY:msgInputAnalyzer:identifierTooLong", wrongCount),
                      "ORRERY:catalogue:argumentMismatch");
+    }
+}
+
+// Each entry keeps the format made from its own pattern: entries that share a last
+// component stay apart, and threads that make and use the formats at once each get
+// every entry's own text.
+TEST(Catalogue, FormatsEachEntryWithItsOwnPatternFromSeveralThreads) {
+    struct Case {
+        const char* identifier;
+        std::vector<MessageArgument> arguments;
+        const char* text;
+    };
+    const Case cases[] = {
+        {"ORRERY:error:nonScalarInput", {}, "The error structure must be 1-by-1."},
+        {"ORRERY:msgInputAnalyzer:nonScalarInput", {}, "Logical and object arguments of a format must be scalar."},
+        {"ORRERY:sprintf:badFieldSize",
+         {100000.0},
+         "A field width or precision must be a whole number no larger than 100000."},
+        {"ORRERY:shell:assignmentCount", {3.0, 2.0}, "Cannot assign 3 values to 2 places."},
+        {"ORRERY:catalogue:noSuchMessage",
+         {std::u16string(u"a:b")},
+         "There is no message 'a:b' in the message catalogue."},
+    };
+    constexpr std::size_t kThreads = 4;
+    constexpr std::size_t kRounds = 50;
+    std::vector<std::vector<std::string>> seen(kThreads);
+    std::vector<std::thread> threads;
+    for (std::size_t t = 0; t < kThreads; ++t) {
+        threads.emplace_back([&, t] {
+            for (std::size_t round = 0; round < kRounds; ++round) {
+                const Case& c = cases[(t + round) % std::size(cases)];
+                seen[t].push_back(std::string(c.identifier) + "|" + formatMessageUtf8(c.identifier, c.arguments));
+            }
+        });
+    }
+    for (auto& thread : threads) thread.join();
+    for (std::size_t t = 0; t < kThreads; ++t) {
+        for (std::size_t round = 0; round < kRounds; ++round) {
+            const Case& c = cases[(t + round) % std::size(cases)];
+            EXPECT_EQ(seen[t][round], std::string(c.identifier) + "|" + c.text) << "thread " << t;
+        }
     }
 }
 

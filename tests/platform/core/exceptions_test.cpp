@@ -8,14 +8,20 @@
 #include <orrery/interp/call_stack.hpp>
 
 #include <cstddef>
+#include <memory>
 #include <string>
+#include <thread>
 #include <type_traits>
+#include <vector>
 
 using namespace orrery;
 using except::QException;
 
 namespace {
 ORRERY_MESSAGE_KEY(StackLine, "ORRERY:error:badStackLine", 0);
+ORRERY_MESSAGE_KEY(Undefined, "ORRERY:undefinedFunction", 1);
+// Declared with the count of its text, made below with a text where it takes a number.
+ORRERY_MESSAGE_KEY(FieldSize, "ORRERY:sprintf:badFieldSize", 1);
 
 // A key is made with exactly the arguments its declaration counts.
 using except::host::NestedTooDeep;  // one argument: the depth limit
@@ -33,6 +39,45 @@ TEST(ThrowMessage, RaisesTheKeysOwnTypeAfterReportingToTheLegacyLayer) {
     EXPECT_EQ(reported, "ORRERY:error:badStackLine");
     EXPECT_EQ(QException::LastError::Get().identifier, "ORRERY:error:badStackLine");
     EXPECT_FALSE(QException::LastError::Get().stack.has_value());
+}
+
+// The text is made from the key's own copy of its arguments when first read, once:
+// every read, every copy of the failure, every thread and the last-error record
+// see the one text.
+TEST(ThrowMessage, FormatsTheTextOnceWhenFirstRead) {
+    const std::u16string expected = u"'caf\u00E9' is not a defined function or variable.";
+    std::unique_ptr<except::IMsgIDException> caught;
+    try {
+        auto name = std::make_unique<std::u16string>(u"caf\u00E9");
+        except::throwMessage(Undefined(*name));
+    } catch (const except::IMsgIDException& failure) {
+        caught = std::make_unique<except::IMsgIDException>(failure);
+    }
+    ASSERT_TRUE(caught);
+    std::vector<const std::u16string*> read(4);
+    std::vector<std::thread> readers;
+    for (std::size_t i = 0; i < read.size(); ++i) readers.emplace_back([&, i] { read[i] = &caught->message(); });
+    for (auto& reader : readers) reader.join();
+    for (const std::u16string* text : read) EXPECT_EQ(text, &caught->message());
+    EXPECT_EQ(caught->message(), expected);
+    EXPECT_STREQ(caught->what(), "'caf\xC3\xA9' is not a defined function or variable.");
+    const except::IMsgIDException copy = *caught;
+    EXPECT_EQ(&copy.message(), &caught->message());
+    caught.reset();
+    EXPECT_EQ(QException::LastError::Get().message, expected);
+}
+
+// Raising does not format: a key whose arguments do not fit its text is raised as
+// itself, and the mismatch shows only when the text is read.
+TEST(ThrowMessage, RaisesTheKeyWithoutFormattingItsText) {
+    try {
+        except::throwMessage("ORRERY:a:b", FieldSize(u"wide"));
+        FAIL() << "nothing raised";
+    } catch (const except::MsgIDException<FieldSize>& failure) {
+        EXPECT_EQ(failure.identifier(), "ORRERY:a:b");
+        EXPECT_MSGID(static_cast<void>(failure.message()), "ORRERY:catalogue:argumentMismatch");
+        EXPECT_STREQ(failure.what(), "(the catalogue text of this failure cannot be formatted)");
+    }
 }
 
 TEST(ArgumentErrors, CheckOutputsBeforeInputs) {

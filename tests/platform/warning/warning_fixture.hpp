@@ -24,7 +24,7 @@ public:
               bool) override {
         ADD_FAILURE() << "unexpected log operation";
     }
-    void warn(WarningManagerContext*, const std::string&, const std::u16string&, std::int32_t,
+    void warn(WarningManagerContext*, const std::string&, std::u16string_view, std::int32_t,
               const value::ValueArray* const*, const std::u16string&, bool) override {
         ADD_FAILURE();
     }

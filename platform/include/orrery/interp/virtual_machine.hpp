@@ -33,8 +33,8 @@ public:
     /// The machine's warning manager context; never null, lives as long as the machine.
     warning::WarningManagerContext* warningManagerContext() const noexcept { return warningContext_.get(); }
 
-    /// The last error the interpreter recorded.
-    except::QException::LastError::Record& lastError() noexcept { return lastError_; }
+    /// The last error the interpreter recorded (see QException::LastError).
+    except::QException::LastError::Kept& lastError() noexcept { return lastError_; }
 
     /// The call stack, outermost frame first.
     CallStack& callStack() noexcept { return callStack_; }
@@ -56,7 +56,7 @@ private:
     std::shared_ptr<console::ConsoleSink> console_;
     std::shared_ptr<warning::WarningFilterStack> warningFilters_;
     CallStack callStack_;
-    except::QException::LastError::Record lastError_;
+    except::QException::LastError::Kept lastError_;
     std::shared_ptr<events::EventPublisher> publisher_;
     std::unique_ptr<warning::WarningManagerContext> warningContext_;
 };

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace orrery::warning {
 
@@ -30,7 +31,7 @@ public:
     virtual void warn(WarningManagerContext* context, const std::string& identifier, const std::u16string& format,
                       std::va_list* arguments, const std::u16string& message, bool wasDisabled) = 0;
     /// A warning with a format and count interpreter values as its arguments.
-    virtual void warn(WarningManagerContext* context, const std::string& identifier, const std::u16string& format,
+    virtual void warn(WarningManagerContext* context, const std::string& identifier, std::u16string_view format,
                       std::int32_t count, const value::ValueArray* const* values, const std::u16string& message,
                       bool wasDisabled) = 0;
     /// Starts logging to a file.
