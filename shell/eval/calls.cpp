@@ -27,8 +27,6 @@ namespace {
 
 using Invoker = std::function<void(std::int32_t, value::ValueArrayPtr*, std::int32_t, const ValueArray* const*)>;
 
-using Values = boost::container::small_vector<ValueArray, 1>;
-
 boost::container::small_vector<const ValueArray*, 4> pointersTo(const Values& args) {
     boost::container::small_vector<const ValueArray*, 4> pointers;
     for (const auto& arg : args) pointers.push_back(&arg);

@@ -21,6 +21,9 @@
 
 namespace orrery::shell::eval {
 
+/// The values an expression gives: one, nearly always, kept without a heap block.
+using Values = boost::container::small_vector<value::ValueArray, 1>;
+
 /// How deeply script functions may call each other.
 inline constexpr std::size_t kMaxCallDepth = 10000;
 
@@ -77,8 +80,7 @@ private:
     };
     class EndScope;
 
-    /// The values an expression gives: one, nearly always, kept without a heap block.
-    using Values = boost::container::small_vector<value::ValueArray, 1>;
+    using Values = eval::Values;
 
     // statements (statements.cpp)
     Flow execBlock(const lang::Block& block);
