@@ -16,7 +16,9 @@
 namespace orrery::shell::eval {
 
 /// One step into a value, its index arguments and field name already known.
-struct AssignStep {
+/// Moving one moves its inline index arguments one by one, and values move
+/// without throwing.
+struct AssignStep {                                   // NOLINT(bugprone-exception-escape)
     lang::SuffixKind kind = lang::SuffixKind::Paren;  // Field for static and dynamic fields alike
     std::string field;
     values::IndexArgs args;

@@ -23,7 +23,7 @@ using value::ValueArray;
 class Interpreter::EndScope {
 public:
     EndScope(Interpreter& interpreter, EndContext context) : interpreter_(interpreter) {
-        interpreter_.endStack_.push_back(std::move(context));
+        interpreter_.endStack_.push_back(context);
     }
     ~EndScope() { interpreter_.endStack_.pop_back(); }
     EndScope(const EndScope&) = delete;
