@@ -43,7 +43,7 @@ Interpreter::Values Interpreter::evalName(const lang::Expr& nameExpr, const lang
     static const std::vector<lang::Suffix> none;
     const auto& suffixes = postfix != nullptr ? postfix->suffixes : none;
     if (const ValueArray* variable = current_->at(current_->slot(nameExpr.name, nameExpr.slot))) {
-        if (suffixes.empty()) return {*variable};
+        if (suffixes.empty()) return Values(1, *variable);
         return applySuffixes({*variable}, suffixes, 0, nargout);
     }
     const std::string& name = nameExpr.name;
@@ -65,10 +65,13 @@ Interpreter::Values Interpreter::evalName(const lang::Expr& nameExpr, const lang
     if (k < suffixes.size() && suffixes[k].kind == SuffixKind::Paren)
         evalArguments(suffixes[k++].args, found.empty() ? name : found, args);
     const int wanted = k < suffixes.size() ? 1 : nargout;
-    Values results =
-        found.empty() ? call(findCallee(name, args), name, args, wanted) : callNamespaceFunction(found, args, wanted);
-    if (k == suffixes.size()) return results;
-    return applySuffixes(std::move(results), suffixes, k, nargout);
+    // Made where it is returned or passed on, never moved between lists.
+    const auto results = [&] {
+        return found.empty() ? call(findCallee(name, args), name, args, wanted)
+                             : callNamespaceFunction(found, args, wanted);
+    };
+    if (k == suffixes.size()) return results();
+    return applySuffixes(results(), suffixes, k, nargout);
 }
 
 Interpreter::Values Interpreter::applySuffixes(Values current, const std::vector<lang::Suffix>& suffixes, std::size_t k,
@@ -81,7 +84,8 @@ Interpreter::Values Interpreter::applySuffixes(Values current, const std::vector
         const ValueArray v = std::move(current.front());
         const lang::Suffix& suffix = suffixes[k];
         if (suffix.kind == SuffixKind::Paren) {
-            current = {values::indexValue(v, evalIndexArgs(suffix, v))};
+            current.clear();
+            current.push_back(values::indexValue(v, evalIndexArgs(suffix, v)));
             continue;
         }
         if (suffix.kind == SuffixKind::Brace) {

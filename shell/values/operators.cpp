@@ -10,6 +10,7 @@
 #include <orrery/text/text.hpp>
 
 #include <cmath>
+#include <span>
 
 namespace orrery::shell::values {
 namespace {
@@ -227,7 +228,13 @@ ValueArray makeRange(const ValueArray& start, const ValueArray* step, const Valu
     const std::size_t count = wholeCount(span + 1).value_or(0);
     const bool chars = start.is(ClassId::Char) && stop.is(ClassId::Char);
     ValueArray result = ValueArray::zeros(chars ? ClassId::Char : ClassId::Double, Dims{1, count});
-    for (std::size_t k = 0; k < count; ++k) result.setRealAt(k, first + static_cast<double>(k) * by);
+    if (chars) {
+        for (std::size_t k = 0; k < count; ++k) result.setRealAt(k, first + static_cast<double>(k) * by);
+        return result;
+    }
+    // A for loop's range is made whole before the loop runs: written straight into its data.
+    const std::span<double> data = result.mutableData<double>();
+    for (std::size_t k = 0; k < count; ++k) data[k] = first + static_cast<double>(k) * by;
     return result;
 }
 

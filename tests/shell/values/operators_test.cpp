@@ -5,6 +5,8 @@
 #include "tests/shell/values/value_notation.hpp"
 #include "tests/support/expect_error.hpp"
 
+#include <optional>
+
 using namespace orrery::testing;
 using orrery::shell::lang::Op;
 using orrery::shell::values::binaryOperation;
@@ -54,5 +56,28 @@ TEST(Operators, BinaryOperationsExpandScalarsAndSizes) {
             EXPECT_MSGID(binaryOperation(c.op, c.a, c.b), c.expected);
         else
             EXPECT_EQ(describe(binaryOperation(c.op, c.a, c.b)), c.expected);
+    }
+}
+
+TEST(Operators, RangesHoldEveryStepFromStartToStop) {
+    using orrery::shell::values::makeRange;
+    struct Case {
+        ValueArray start;
+        std::optional<double> step;
+        ValueArray stop;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {ValueArray::scalar(1), std::nullopt, ValueArray::scalar(4), "double 1x4: 1 2 3 4"},
+        {ValueArray::scalar(5), -2, ValueArray::scalar(0), "double 1x3: 5 3 1"},
+        {ValueArray::scalar(0), 0.25, ValueArray::scalar(1), "double 1x5: 0 0.25 0.5 0.75 1"},
+        {ValueArray::scalar(7), std::nullopt, ValueArray::scalar(7), "double 1x1: 7"},
+        {ValueArray::scalar(2), std::nullopt, ValueArray::scalar(1), "double 1x0:"},
+        {ValueArray::chars(u"a"), std::nullopt, ValueArray::chars(u"c"), "char 1x3: 'abc'"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.expected);
+        const ValueArray step = ValueArray::scalar(c.step.value_or(1));
+        EXPECT_EQ(describe(makeRange(c.start, c.step ? &step : nullptr, c.stop)), c.expected);
     }
 }
