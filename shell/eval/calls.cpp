@@ -89,13 +89,24 @@ Interpreter::UserFunction::UserFunction(std::shared_ptr<const lang::FunctionDef>
     for (const auto& output : def->outputs) outputSlots.push_back(layout->slotOf(output));
 }
 
-Interpreter::Callee Interpreter::findCallee(const std::string& name, const Values& args) const {
-    if (isSessionCommand(name)) return {Callee::Kind::SessionCommand, nullptr};
+lang::CallMemo Interpreter::findName(const std::string& name) const {
+    using Found = lang::CallMemo::Found;
+    if (isSessionCommand(name)) return {functionsVersion_, Found::SessionCommand, nullptr};
+    if (const auto found = functions_.find(name); found != functions_.end())
+        return {functionsVersion_, Found::Script, found->second.get()};
+    return {functionsVersion_, Found::Neither, nullptr};
+}
+
+// A class's method depends on the arguments' classes and a registered function
+// may come and go, so both are looked for on every call.
+Interpreter::Callee Interpreter::findCallee(const std::string& name, const Values& args, lang::CallMemo& memo) const {
+    using Found = lang::CallMemo::Found;
+    if (memo.functions != functionsVersion_) memo = findName(name);
+    if (memo.found == Found::SessionCommand) return {Callee::Kind::SessionCommand, nullptr};
     const auto inputs = pointersTo(args);
     if (ocos::findMethodFor(name, static_cast<std::int32_t>(inputs.size()), inputs.data()))
         return {Callee::Kind::Method, nullptr};
-    if (const auto found = functions_.find(name); found != functions_.end())
-        return {Callee::Kind::Script, found->second.get()};
+    if (memo.found == Found::Script) return {Callee::Kind::Script, static_cast<const UserFunction*>(memo.script)};
     if (interp::isFunction(name)) return {Callee::Kind::Registered, nullptr};
     return {};
 }
@@ -112,7 +123,8 @@ Interpreter::Values Interpreter::call(const Callee& callee, const std::string& n
 }
 
 Interpreter::Values Interpreter::callFunction(const std::string& name, const Values& args, int nargout) {
-    return call(findCallee(name, args), name, args, nargout);
+    lang::CallMemo once;
+    return call(findCallee(name, args, once), name, args, nargout);
 }
 
 Interpreter::Values Interpreter::callBuiltin(const std::string& name, const Values& args, int nargout) {

@@ -135,7 +135,10 @@ private:
     };
 
     // calls (calls.cpp)
-    Callee findCallee(const std::string& name, const Values& args) const;
+    /// The callee of a call site; its memo spares the name's lookups while the
+    /// script functions stay as they are.
+    Callee findCallee(const std::string& name, const Values& args, lang::CallMemo& memo) const;
+    lang::CallMemo findName(const std::string& name) const;
     Values call(const Callee& callee, const std::string& name, const Values& args, int nargout);
     Values callFunction(const std::string& name, const Values& args, int nargout);
     /// Runs a script function; the caller holds it while it runs.
@@ -153,6 +156,7 @@ private:
     Workspace base_;
     Workspace* current_;
     std::map<std::string, std::unique_ptr<const UserFunction>, std::less<>> functions_;
+    std::uint64_t functionsVersion_;  // changes whenever functions_ does
     // functions replaced by a later definition: a call of one may still be running
     std::vector<std::unique_ptr<const UserFunction>> replaced_;
     std::vector<EndContext> endStack_;

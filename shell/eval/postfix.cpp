@@ -67,7 +67,7 @@ Interpreter::Values Interpreter::evalName(const lang::Expr& nameExpr, const lang
     const int wanted = k < suffixes.size() ? 1 : nargout;
     // Made where it is returned or passed on, never moved between lists.
     const auto results = [&] {
-        return found.empty() ? call(findCallee(name, args), name, args, wanted)
+        return found.empty() ? call(findCallee(name, args, nameExpr.callee), name, args, wanted)
                              : callNamespaceFunction(found, args, wanted);
     };
     if (k == suffixes.size()) return results();

@@ -24,7 +24,7 @@ using lang::StmtKind;
 using value::ClassId;
 using value::ValueArray;
 
-Interpreter::Interpreter() : current_(&base_) { registerExceptionClass(); }
+Interpreter::Interpreter() : current_(&base_), functionsVersion_(nextIdentity()) { registerExceptionClass(); }
 Interpreter::~Interpreter() = default;
 
 void Interpreter::run(const lang::Program& program, const std::u16string& file, const std::u16string& frameName) {
@@ -35,6 +35,7 @@ void Interpreter::run(const lang::Program& program, const std::u16string& file, 
         if (entry && callDepth_ > 0) replaced_.push_back(std::move(entry));
         entry = std::make_unique<const UserFunction>(def, file);
     }
+    if (!program.functions.empty()) functionsVersion_ = nextIdentity();
     std::optional<interp::FrameGuard> frame;
     if (!frameName.empty()) frame.emplace(interp::StackEntry{file, frameName, 0});
     execBlock(program.statements);

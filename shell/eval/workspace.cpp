@@ -6,16 +6,13 @@
 #include <new>
 
 namespace orrery::shell::eval {
-namespace {
 
-std::uint64_t nextLayoutIdentity() {
+std::uint64_t nextIdentity() {
     static std::atomic<std::uint64_t> last{0};
     return ++last;
 }
 
-}  // namespace
-
-SlotLayout::SlotLayout() : identity_(nextLayoutIdentity()) {}
+SlotLayout::SlotLayout() : identity_(nextIdentity()) {}
 
 std::uint32_t SlotLayout::slotOf(std::string_view name) {
     if (const auto found = slots_.find(name); found != slots_.end()) return found->second;

@@ -17,6 +17,10 @@
 
 namespace orrery::shell::eval {
 
+/// A number not handed out before in this process: the identity of a slot layout
+/// or a version of an interpreter's script functions, as the tree's memos keep them.
+std::uint64_t nextIdentity();
+
 /// The names a workspace's variables can have, each with the slot it lives in.
 /// Every call of one function shares the function's layout, so a name that a
 /// statement resolved once is the same slot in every later call. A layout only

@@ -51,6 +51,17 @@ struct SlotMemo {
     std::uint32_t slot = 0;
 };
 
+/// What the name of a call was found to be, remembered by the node together with
+/// the version of the interpreter's script functions it was found among (0: not
+/// yet), so that a call site looks its name up once. The evaluator fills it;
+/// `script` is the evaluator's own record of the script function.
+struct CallMemo {
+    enum class Found : std::uint8_t { SessionCommand, Script, Neither };
+    std::uint64_t functions = 0;
+    Found found = Found::Neither;
+    const void* script = nullptr;
+};
+
 enum class ExprKind {
     Number,
     CharText,
@@ -91,7 +102,8 @@ struct Expr {
     double number = 0;
     std::u16string text;
     std::string name;
-    mutable SlotMemo slot;  ///< of `name` as a variable
+    mutable SlotMemo slot;    ///< of `name` as a variable
+    mutable CallMemo callee;  ///< of `name` as a function
     Op op = Op::Plus;
     std::vector<ExprPtr> operands;
     std::vector<Suffix> suffixes;

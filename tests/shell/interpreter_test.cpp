@@ -244,3 +244,23 @@ TEST_F(InterpreterTest, VariablesKeepTheirSlotsApart) {
     }
     EXPECT_EQ(other.baseWorkspace().find("unrelated")->realAt(0), 0);
 }
+
+// A call site remembers what its name was found to be only while the script
+// functions stay as they were: the same call site runs a function defined since,
+// and a program shared with another interpreter runs that interpreter's own.
+TEST_F(InterpreterTest, CallSitesRunTheFunctionsDefinedSinceTheirLastCall) {
+    EXPECT_EQ(run("function y = viaProbe()\n  y = probeOutputs();\nend\na = viaProbe()"), "a = 1\n");
+    EXPECT_EQ(run("function y = probeOutputs()\n  y = 42;\nend\nb = viaProbe()"), "b = 42\n");
+    EXPECT_EQ(run("function y = probeOutputs()\n  y = 43;\nend\nc = viaProbe()"), "c = 43\n");
+
+    const auto program = shell::lang::parse("d = probeOutputs()", u"shared.orr");
+    shell::eval::Interpreter other;
+    for (int round = 0; round < 2; ++round) {
+        console_.clear();
+        interpreter_.run(program, u"shared.orr", u"");
+        EXPECT_EQ(console_.output(), "d = 43\n");
+        console_.clear();
+        other.run(program, u"shared.orr", u"");
+        EXPECT_EQ(console_.output(), "d = 1\n");
+    }
+}
