@@ -106,6 +106,12 @@ protected:
         interpreter_.run(shell::lang::parse(source, u"script.orr"), u"script.orr", u"script");
         return console_.output();
     }
+    // Runs a program already parsed, as "shared.orr", and returns what it displayed.
+    std::string runParsed(shell::eval::Interpreter& interpreter, const shell::lang::Program& program) {
+        console_.clear();
+        interpreter.run(program, u"shared.orr", u"");
+        return console_.output();
+    }
     console::ConsoleCapture console_;
     shell::eval::Interpreter interpreter_;
 };
@@ -235,12 +241,8 @@ TEST_F(InterpreterTest, VariablesKeepTheirSlotsApart) {
     other.baseWorkspace().set("y", ValueArray::scalar(10));
     interpreter_.baseWorkspace().set("y", ValueArray::scalar(1));
     for (int round = 0; round < 2; ++round) {
-        console_.clear();
-        interpreter_.run(program, u"shared.orr", u"");
-        EXPECT_EQ(console_.output(), "x = 2\n");
-        console_.clear();
-        other.run(program, u"shared.orr", u"");
-        EXPECT_EQ(console_.output(), "x = 11\n");
+        EXPECT_EQ(runParsed(interpreter_, program), "x = 2\n");
+        EXPECT_EQ(runParsed(other, program), "x = 11\n");
     }
     EXPECT_EQ(other.baseWorkspace().find("unrelated")->realAt(0), 0);
 }
@@ -256,11 +258,7 @@ TEST_F(InterpreterTest, CallSitesRunTheFunctionsDefinedSinceTheirLastCall) {
     const auto program = shell::lang::parse("d = probeOutputs()", u"shared.orr");
     shell::eval::Interpreter other;
     for (int round = 0; round < 2; ++round) {
-        console_.clear();
-        interpreter_.run(program, u"shared.orr", u"");
-        EXPECT_EQ(console_.output(), "d = 43\n");
-        console_.clear();
-        other.run(program, u"shared.orr", u"");
-        EXPECT_EQ(console_.output(), "d = 1\n");
+        EXPECT_EQ(runParsed(interpreter_, program), "d = 43\n");
+        EXPECT_EQ(runParsed(other, program), "d = 1\n");
     }
 }
