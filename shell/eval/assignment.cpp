@@ -47,6 +47,9 @@ void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
         current_->setAt(slot, std::move(rhs));
         return;
     }
+    // x(i) = v, the commonest indexed assignment, needs its index arguments only.
+    const bool indexOnly = target.suffixes.size() == 1 && target.suffixes[0].kind == SuffixKind::Paren;
+    values::IndexArgs args;
     AssignSteps steps;
     {
         // A share of the variable while its index arguments run (they may
@@ -54,14 +57,20 @@ void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {
         // the data unshared unless something else holds it.
         const ValueArray* existing = current_->at(slot);
         const ValueArray root = existing != nullptr ? *existing : ValueArray();
-        planAssignment(root, target.suffixes, steps);
+        if (indexOnly)
+            evalIndexArgs(target.suffixes[0], root, args);
+        else
+            planAssignment(root, target.suffixes, steps);
     }
-    if (ValueArray* place = current_->mutableAt(slot)) {
-        assignPlace(*place, steps, 0, std::move(rhs));
-        return;
-    }
+    const auto assign = [&](ValueArray& place) {
+        if (indexOnly)
+            values::assignIndexed(place, args, rhs);
+        else
+            assignPlace(place, steps, 0, std::move(rhs));
+    };
+    if (ValueArray* place = current_->mutableAt(slot)) return assign(*place);
     ValueArray made;
-    assignPlace(made, steps, 0, std::move(rhs));
+    assign(made);
     current_->setAt(slot, std::move(made));
 }
 

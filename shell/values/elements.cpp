@@ -30,6 +30,7 @@ void copyTyped(ValueArray& dst, std::size_t to, const ValueArray& src, std::size
 
 void copySameNumeric(ValueArray& dst, std::size_t to, const ValueArray& src, std::size_t from) {
     switch (dst.classId()) {
+        case ClassId::Double: return copyTyped<double>(dst, to, src, from);
         case ClassId::Int64: return copyTyped<std::int64_t>(dst, to, src, from);
         case ClassId::UInt64: return copyTyped<std::uint64_t>(dst, to, src, from);
         default: dst.setRealAt(to, src.realAt(from));
