@@ -20,7 +20,7 @@ using value::ValueArray;
 void Interpreter::execAssign(const lang::Stmt& stmt) {
     const lang::LValue& target = stmt.targets[0];
     assignTo(target, eval(*stmt.expr));
-    if (stmt.printResult) show(target.name, *targetValue(target));
+    if (stmt.printResult) show(target.name, *findVariable(target.name, target.slot));
 }
 
 void Interpreter::execMultiAssign(const lang::Stmt& stmt) {
@@ -34,11 +34,7 @@ void Interpreter::execMultiAssign(const lang::Stmt& stmt) {
     }
     if (!stmt.printResult) return;
     for (const auto& target : stmt.targets)
-        if (!target.ignored) show(target.name, *targetValue(target));
-}
-
-const ValueArray* Interpreter::targetValue(const lang::LValue& target) {
-    return current_->at(current_->slot(target.name, target.slot));
+        if (!target.ignored) show(target.name, *findVariable(target.name, target.slot));
 }
 
 void Interpreter::assignTo(const lang::LValue& target, ValueArray rhs) {

@@ -38,7 +38,7 @@ ValueArray Interpreter::eval(const lang::Expr& expr) {
         case ExprKind::EndIndex: return evalEnd(expr);
         case ExprKind::Name:
             // a variable's value straight from the workspace, without a list of results
-            if (const ValueArray* variable = current_->at(current_->slot(expr.name, expr.slot))) return *variable;
+            if (const ValueArray* variable = findVariable(expr.name, expr.slot)) return *variable;
             break;
         default: break;
     }

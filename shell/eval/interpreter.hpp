@@ -99,10 +99,14 @@ private:
     void execAssign(const lang::Stmt& stmt);
     void execMultiAssign(const lang::Stmt& stmt);
     void assignTo(const lang::LValue& target, value::ValueArray rhs);
-    /// The variable an assignment target names (null when unset).
-    const value::ValueArray* targetValue(const lang::LValue& target);
     /// Fills steps (empty) with the chain's index arguments and field names.
     void planAssignment(const value::ValueArray& root, const std::vector<lang::Suffix>& chain, AssignSteps& steps);
+
+    /// The variable of that name in the current workspace (null when unset),
+    /// through the slot the naming node remembers.
+    const value::ValueArray* findVariable(const std::string& name, lang::SlotMemo& memo) {
+        return current_->at(current_->slot(name, memo));
+    }
 
     // expressions (expressions.cpp)
     value::ValueArray eval(const lang::Expr& expr);

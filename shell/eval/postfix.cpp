@@ -42,7 +42,7 @@ Interpreter::Values Interpreter::evalPostfix(const lang::Expr& expr, int nargout
 Interpreter::Values Interpreter::evalName(const lang::Expr& nameExpr, const lang::Expr* postfix, int nargout) {
     static const std::vector<lang::Suffix> none;
     const auto& suffixes = postfix != nullptr ? postfix->suffixes : none;
-    if (const ValueArray* variable = current_->at(current_->slot(nameExpr.name, nameExpr.slot))) {
+    if (const ValueArray* variable = findVariable(nameExpr.name, nameExpr.slot)) {
         if (suffixes.empty()) return Values(1, *variable);
         return applySuffixes({*variable}, suffixes, 0, nargout);
     }

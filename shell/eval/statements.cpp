@@ -155,7 +155,7 @@ Interpreter::Flow Interpreter::execTry(const lang::Stmt& stmt) {
 void Interpreter::execExpression(const lang::Stmt& stmt) {
     const lang::Expr& expr = *stmt.expr;
     if (expr.kind == lang::ExprKind::Name) {
-        if (const ValueArray* variable = current_->at(current_->slot(expr.name, expr.slot))) {
+        if (const ValueArray* variable = findVariable(expr.name, expr.slot)) {
             if (stmt.printResult) show(expr.name, *variable);
             return;
         }
